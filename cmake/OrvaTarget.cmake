@@ -7,7 +7,7 @@ if(MSVC)
     target_compile_options(orva_build_options INTERFACE /W4 /WX /utf-8 /permissive-)
 else()
     target_compile_options(orva_build_options INTERFACE
-        -Wall -Wextra -Wpedantic -Werror -Wshadow -Wconversion -Wno-sign-conversion
+        -Wall -Wextra -Wpedantic -Werror $<IF:$<CXX_COMPILER_ID:GNU>,-Wshadow=local,-Wshadow> -Wconversion -Wno-sign-conversion
         -Wcast-align -Wformat=2 -Wimplicit-fallthrough -Wundef
         $<$<COMPILE_LANGUAGE:CXX>:-Wnon-virtual-dtor -Woverloaded-virtual -Wextra-semi>)
 endif()

@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
+
+// Whether `event` activates a label that serves as a button: the press of the left mouse button, or
+// Space or Return while it has the focus.
+inline bool isActivation(const QEvent* event)
+{
+    if (event->type() == QEvent::MouseButtonPress)
+        return static_cast<const QMouseEvent*>(event)->button() == Qt::LeftButton;
+    if (event->type() != QEvent::KeyPress)
+        return false;
+    const int key = static_cast<const QKeyEvent*>(event)->key();
+    return key == Qt::Key_Space || key == Qt::Key_Return;
+}

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/logincombobox.h"
+
+#include <QLineEdit>
+#include <QStyleOptionComboBox>
+#include <QStylePainter>
+
+LoginComboBox::LoginComboBox(QWidget* parent)
+    : QComboBox(parent)
+{
+    setInsertPolicy(NoInsert);
+    // A remembered name may be thousands of characters long.
+    setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
+    setContextMenuPolicy(Qt::NoContextMenu);
+}
+
+void LoginComboBox::makeEditable()
+{
+    setEditable(true);
+    setCompleter(nullptr);
+    lineEdit()->setContextMenuPolicy(Qt::NoContextMenu);
+    // The box's own style string, which its focus replaces, must not frame the inner field too.
+    lineEdit()->setStyleSheet(QStringLiteral("border:0;background:transparent;padding:0;"));
+}
+
+void LoginComboBox::paintEvent(QPaintEvent* event)
+{
+    if (isEditable()) {
+        QComboBox::paintEvent(event);
+        return;
+    }
+    QStylePainter painter(this);
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    const QString text = option.currentText;
+    option.currentText.clear();
+    painter.drawComplexControl(QStyle::CC_ComboBox, option);
+    const QRect field
+        = style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
+    const int margin = std::max(field.left(), width() - field.right());
+    const QRect centred = rect().adjusted(margin, 0, -margin, 0);
+    painter.drawText(centred, Qt::AlignCenter,
+        fontMetrics().elidedText(text, Qt::ElideRight, centred.width()));
+}

@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QComboBox>
+
+// A combo box of the login window: the user name, typed or picked, or the language. A box that
+// cannot be edited shows its text centred. What is typed never becomes an item, and nothing is
+// completed, since a completed name would bring another account's password. Main thread.
+class LoginComboBox final : public QComboBox
+{
+    Q_OBJECT
+
+public:
+    explicit LoginComboBox(QWidget* parent = nullptr);
+
+    // Makes the name editable, without completion and without a context menu.
+    void makeEditable();
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+};

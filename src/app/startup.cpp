@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/startup.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QFontDatabase>
+#include <QIcon>
+
+// Resources in a static library are linked in only where something names them; the macro must
+// stand outside any namespace.
+static void initResources()
+{
+    Q_INIT_RESOURCE(orva_pictures);
+    Q_INIT_RESOURCE(orva_files);
+}
+
+namespace {
+
+void addFonts()
+{
+    QFontDatabase::addApplicationFont(QStringLiteral(":/fonts/fonts/HELVETICA NEUE.ttf"));
+    QFontDatabase::addApplicationFont(QStringLiteral(":/fonts/fonts/HELVETICA NEUE Bold.ttf"));
+}
+
+void setNames()
+{
+    QCoreApplication::setOrganizationName(QStringLiteral("Quvane"));
+    QCoreApplication::setOrganizationDomain(QStringLiteral("orva.invalid"));
+    QCoreApplication::setApplicationName(QStringLiteral("ORVA"));
+}
+
+void setFont()
+{
+    // Where the named font is missing, as on Linux; the last one is built into the program.
+    const QString family = QStringLiteral("Microsoft YaHei");
+    QFont::insertSubstitutions(family,
+        {QStringLiteral("Segoe UI"), QStringLiteral("Noto Sans"), QStringLiteral("Noto Sans CJK SC"),
+            QStringLiteral("Liberation Sans")});
+    QApplication::setFont(QFont(family));
+}
+
+void setLook()
+{
+    QFile sheet(QStringLiteral(":/style/orva.qss"));
+    if (sheet.open(QIODevice::ReadOnly))
+        qApp->setStyleSheet(QString::fromUtf8(sheet.readAll()));
+    QApplication::setWindowIcon(
+        QIcon(QStringLiteral(":/logo/orva/images/logo/app_icon.png")));
+}
+
+} // namespace
+
+void prepareApplication()
+{
+    initResources();
+    addFonts();
+    setNames();
+    setFont();
+    setLook();
+}

@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "model/channelhold.h"
+
+#include <QCoreApplication>
+#include <QtConcurrent>
+
+#include <utility>
+
+#if defined(__SANITIZE_THREAD__)
+#include <sanitizer/tsan_interface.h>
+#endif
+
+// The one pattern for work that may block. A task is a short function on the global thread pool;
+// it does one blocking thing and posts the result as an event to the object that started it, whose
+// event() turns it into state and signals on the main thread. Nothing waits for a task, and
+// nothing cancels one. The receiver must outlive its tasks: receivers are singletons, or children
+// of one that are not deleted before it.
+//
+//     runTask(channel, [=, hold = ChannelHold(channel)] {
+//         postResult(this, new ProgressEvent_setWifi(hold, avSendIOCtrl(...)));
+//     });
+//
+// The thread sanitizer cannot look into Qt's event queue and thread pool, so the two hand-overs
+// are told to it.
+
+namespace TaskPrivate {
+
+inline void handOver([[maybe_unused]] void* address)
+{
+#if defined(__SANITIZE_THREAD__)
+    __tsan_release(address);
+#endif
+}
+
+inline void takeOver([[maybe_unused]] void* address)
+{
+#if defined(__SANITIZE_THREAD__)
+    __tsan_acquire(address);
+#endif
+}
+
+} // namespace TaskPrivate
+
+// Runs `work` on the global pool. Main thread. `channel` may be null; its device is kept alive
+// until `work` has returned and its captures are gone.
+template <typename Work>
+void runTask(Channel* channel, Work work)
+{
+    auto task = std::make_shared<Work>(std::move(work));
+    TaskPrivate::handOver(task.get());
+    QtConcurrent::run([task = std::move(task), hold = ChannelHold(channel)]() mutable {
+        TaskPrivate::takeOver(task.get());
+        (*task)();
+        task.reset();
+    });
+}
+
+// Hands `event` to `receiver`, whose event() runs on the main thread. Any thread.
+inline void postResult(QObject* receiver, QEvent* event)
+{
+    TaskPrivate::handOver(event);
+    QCoreApplication::postEvent(receiver, event, Qt::NormalEventPriority);
+}
+
+// The event as the class whose number it has; for use in event(), after a look at type().
+template <class Event>
+Event& eventCast(QEvent* event)
+{
+    Q_ASSERT(event->type() == Event::number);
+    TaskPrivate::takeOver(event);
+    return static_cast<Event&>(*event);
+}

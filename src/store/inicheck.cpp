@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "store/inicheck.h"
+
+#include <algorithm>
+
+namespace {
+
+bool isBinary(char c)
+{
+    const auto code = static_cast<unsigned char>(c);
+    return code < ' ' && c != '\t' && c != '\r' && c != '\n';
+}
+
+// Reads lines as QSettings does: a backslash takes the next character with it, line breaks
+// included, and a quoted text may run over line breaks.
+class IniLines
+{
+public:
+    explicit IniLines(const QByteArray& bytes)
+        : bytes_(bytes)
+    {
+    }
+
+    bool atEnd() const { return at_ >= bytes_.size(); }
+
+    // The next line; `complete` is false when the file ends inside quotes.
+    QByteArray next(bool& complete)
+    {
+        const int start = at_;
+        bool quoted = false;
+        while (!atEnd() && (quoted || !isBreak(bytes_.at(at_)))) {
+            const char c = bytes_.at(at_++);
+            if (isComment(start, c))
+                skipToBreak();
+            else if (c == '\\')
+                ++at_;
+            else if (c == '"')
+                quoted = !quoted;
+        }
+        complete = !quoted;
+        const QByteArray line = bytes_.mid(start, at_ - start).trimmed();
+        ++at_;
+        return line;
+    }
+
+private:
+    static bool isBreak(char c) { return c == '\n' || c == '\r'; }
+    bool isComment(int start, char c) const { return at_ == start + 1 && (c == ';' || c == '#'); }
+    void skipToBreak()
+    {
+        while (!atEnd() && !isBreak(bytes_.at(at_)))
+            ++at_;
+    }
+
+    const QByteArray& bytes_;
+    int at_ = 0;
+};
+
+bool isIniLine(const QByteArray& line)
+{
+    if (line.isEmpty() || line.startsWith(';') || line.startsWith('#'))
+        return true;
+    return line.startsWith('[') ? line.contains(']') : line.contains('=');
+}
+
+} // namespace
+
+bool isIntactIni(const QByteArray& bytes)
+{
+    if (std::any_of(bytes.begin(), bytes.end(), isBinary))
+        return false;
+    IniLines lines(bytes);
+    while (!lines.atEnd()) {
+        bool complete = false;
+        const QByteArray line = lines.next(complete);
+        if (!complete || !isIniLine(line))
+            return false;
+    }
+    return true;
+}
