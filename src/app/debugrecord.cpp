@@ -35,8 +35,8 @@ void DebugRecord::showDebug(QtMsgType type, const QString& data)
     const auto value = static_cast<std::size_t>(type);
     if (value >= std::size(prefixes))
         return;
-    append(QLatin1String(prefixes[value]) + QTime::currentTime().toString() + QLatin1Char(']')
-        + data);
+    append(
+        QLatin1String(prefixes[value]) + QTime::currentTime().toString() + QLatin1Char(']') + data);
 }
 
 void DebugRecord::append(const QString& line)

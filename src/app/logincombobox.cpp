@@ -35,10 +35,10 @@ void LoginComboBox::paintEvent(QPaintEvent* event)
     const QString text = option.currentText;
     option.currentText.clear();
     painter.drawComplexControl(QStyle::CC_ComboBox, option);
-    const QRect field
-        = style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
+    const QRect field =
+        style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
     const int margin = std::max(field.left(), width() - field.right());
     const QRect centred = rect().adjusted(margin, 0, -margin, 0);
-    painter.drawText(centred, Qt::AlignCenter,
-        fontMetrics().elidedText(text, Qt::ElideRight, centred.width()));
+    painter.drawText(
+        centred, Qt::AlignCenter, fontMetrics().elidedText(text, Qt::ElideRight, centred.width()));
 }

@@ -33,7 +33,8 @@ void debugMessageHandler(QtMsgType type, const QMessageLogContext&, const QStrin
     // The list shows what standard error can show: what the local encoding cannot hold is lost in
     // both.
     const QByteArray local = message.toLocal8Bit();
-    postResult(SystemInfo::instance(), new DebugEvent_getDebug(type, QString::fromLocal8Bit(local)));
+    postResult(
+        SystemInfo::instance(), new DebugEvent_getDebug(type, QString::fromLocal8Bit(local)));
     std::fprintf(stderr, "%s: %s\n", wordFor(type), local.constData());
     if (type == QtFatalMsg)
         std::abort();

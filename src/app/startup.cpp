@@ -34,8 +34,8 @@ void setFont()
     // Where the named font is missing, as on Linux; the last one is built into the program.
     const QString family = QStringLiteral("Microsoft YaHei");
     QFont::insertSubstitutions(family,
-        {QStringLiteral("Segoe UI"), QStringLiteral("Noto Sans"), QStringLiteral("Noto Sans CJK SC"),
-            QStringLiteral("Liberation Sans")});
+        {QStringLiteral("Segoe UI"), QStringLiteral("Noto Sans"),
+            QStringLiteral("Noto Sans CJK SC"), QStringLiteral("Liberation Sans")});
     QApplication::setFont(QFont(family));
 }
 
@@ -44,8 +44,7 @@ void setLook()
     QFile sheet(QStringLiteral(":/style/orva.qss"));
     if (sheet.open(QIODevice::ReadOnly))
         qApp->setStyleSheet(QString::fromUtf8(sheet.readAll()));
-    QApplication::setWindowIcon(
-        QIcon(QStringLiteral(":/logo/orva/images/logo/app_icon.png")));
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/logo/orva/images/logo/app_icon.png")));
 }
 
 } // namespace

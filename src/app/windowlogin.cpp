@@ -156,7 +156,7 @@ void WindowLogin::restoreLastLogin()
 
 void WindowLogin::installFilters()
 {
-    for (QWidget* element : std::initializer_list<QWidget*> {ui_->label_close, ui_->label_eye,
+    for (QWidget* element : std::initializer_list<QWidget*>{ui_->label_close, ui_->label_eye,
              ui_->pushButton_login, userCombo_, ui_->lineEdit_password, ui_->widget_localLogin,
              ui_->label_forget, ui_->label_register})
         element->installEventFilter(this);
@@ -189,8 +189,8 @@ void WindowLogin::setBrand(int number)
     const QString picture = QLatin1String(brand.loginLogo);
     logo->setStyleSheet(
         brand.logoScaled ? QString() : QStringLiteral("border-image:url(%1);").arg(picture));
-    logo->setPixmap(brand.logoScaled ? QPixmap(picture).scaled(brand.loginLogoSize,
-                                           Qt::KeepAspectRatio, Qt::SmoothTransformation)
+    logo->setPixmap(brand.logoScaled ? QPixmap(picture).scaled(
+                        brand.loginLogoSize, Qt::KeepAspectRatio, Qt::SmoothTransformation)
                                      : QPixmap());
     applyBrandTexts();
 }
@@ -316,8 +316,7 @@ void WindowLogin::filterActivation(const QObject* watched)
 void WindowLogin::toggleEye()
 {
     passwordVisible_ = !passwordVisible_;
-    ui_->lineEdit_password->setEchoMode(
-        passwordVisible_ ? QLineEdit::Normal : QLineEdit::Password);
+    ui_->lineEdit_password->setEchoMode(passwordVisible_ ? QLineEdit::Normal : QLineEdit::Password);
     ui_->label_eye->setPixmap(
         keyPicture(passwordVisible_ ? "btn_login_visible" : "btn_login_invisible"));
 }
@@ -379,7 +378,8 @@ void WindowLogin::fillLanguageCombo()
     for (int i = 0; i < SystemInfo::languageCount; ++i) {
         QString text = tr(languages[i].name);
         if (i != current)
-            text += QLatin1Char('(') + QString::fromUtf8(languages[i].nativeName) + QLatin1Char(')');
+            text +=
+                QLatin1Char('(') + QString::fromUtf8(languages[i].nativeName) + QLatin1Char(')');
         languageCombo_->setItemText(i, text);
     }
 }

@@ -12,8 +12,8 @@ AccountNotice::AccountNotice(Purpose purpose, QWidget* parent)
 {
     ui_->setupUi(this);
     ui_->label_back->installEventFilter(this);
-    connect(SystemInfo::instance(), &SystemInfo::languageChangedMsg, this,
-        &AccountNotice::retranslate);
+    connect(
+        SystemInfo::instance(), &SystemInfo::languageChangedMsg, this, &AccountNotice::retranslate);
     retranslate();
 }
 

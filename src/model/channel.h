@@ -20,15 +20,15 @@ class GlWidgetViewWindow;
 struct ChannelMode
 {
     // Shared with worker threads without a lock.
-    Relaxed<int> avIndex {-1}; // AV channel of the library, negative when not started
-    Relaxed<bool> highQuality {false}; // as the device last reported it; live only
-    Relaxed<bool> waiting {false}; // a stream was asked for and no picture came yet
-    Relaxed<bool> open {false}; // the user wants the channel on the wall in this mode
-    Relaxed<bool> playing {false}; // the device has accepted the stream request
-    Relaxed<bool> screenshot {false}; // take a snapshot of the next frame
-    Relaxed<bool> record {false}; // written through Channel::setRecord
-    Relaxed<bool> recordStarted {false}; // recording has seen its first key frame
-    Relaxed<bool> audioOn {false};
+    Relaxed<int> avIndex{-1}; // AV channel of the library, negative when not started
+    Relaxed<bool> highQuality{false}; // as the device last reported it; live only
+    Relaxed<bool> waiting{false}; // a stream was asked for and no picture came yet
+    Relaxed<bool> open{false}; // the user wants the channel on the wall in this mode
+    Relaxed<bool> playing{false}; // the device has accepted the stream request
+    Relaxed<bool> screenshot{false}; // take a snapshot of the next frame
+    Relaxed<bool> record{false}; // written through Channel::setRecord
+    Relaxed<bool> recordStarted{false}; // recording has seen its first key frame
+    Relaxed<bool> audioOn{false};
 
     // Recorder and decoder tasks only, under the locks of the stream.
     int recordCodec = 0;
@@ -101,14 +101,14 @@ public:
     bool videoTimeLoaded = false; // the list for `videoTimeDate` is complete
     int ptzState = 0; // first word of the PTZ state message
     bool connectingChannel = false; // a connect of the live AV channel is under way
-    Relaxed<int> replayOffset {0}; // seconds to seek after the start
-    Relaxed<bool> replayPending {false}; // a time list was asked for and is not used up
-    Relaxed<bool> replayPaused {false}; // by the user, not by a change of mode
+    Relaxed<int> replayOffset{0}; // seconds to seek after the start
+    Relaxed<bool> replayPending{false}; // a time list was asked for and is not used up
+    Relaxed<bool> replayPaused{false}; // by the user, not by a change of mode
 
     // Talk-back.
-    Relaxed<bool> speaking {false};
-    Relaxed<int> talkIndex {-1}; // AV server index
-    Relaxed<int> speechChannel {-1}; // given to the device; 31 once talk-back was requested
+    Relaxed<bool> speaking{false};
+    Relaxed<int> talkIndex{-1}; // AV server index
+    Relaxed<int> speechChannel{-1}; // given to the device; 31 once talk-back was requested
     int talkPacket = 0;
     std::shared_ptr<void> talkBuffers; // the sender's working buffers, of its own type
 

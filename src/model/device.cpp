@@ -53,8 +53,9 @@ void Device::setChannelCount(int count)
 
 Channel* Device::channel(int index) const
 {
-    return index >= 0 && index < channelListSize() ? channels_[static_cast<std::size_t>(index)].get()
-                                                   : nullptr;
+    return index >= 0 && index < channelListSize()
+        ? channels_[static_cast<std::size_t>(index)].get()
+        : nullptr;
 }
 
 void Device::release()

@@ -58,8 +58,8 @@ public:
 
     // Session of the link layer, shared with worker threads without a lock: `sid` below 0 and
     // not connecting is not connected, 0 or above is connected.
-    Relaxed<int> sid {-1};
-    Relaxed<bool> connecting {false};
+    Relaxed<int> sid{-1};
+    Relaxed<bool> connecting{false};
 
 private:
     friend class ChannelHold;
@@ -74,7 +74,7 @@ private:
     int type_ = 0;
     int channelCount_ = 0;
     std::vector<std::unique_ptr<Channel>> channels_;
-    std::atomic<int> holds_ {1}; // the owner's, and one for each ChannelHold
+    std::atomic<int> holds_{1}; // the owner's, and one for each ChannelHold
 };
 
 Q_DECLARE_METATYPE(Device*)

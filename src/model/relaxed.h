@@ -26,5 +26,5 @@ public:
     }
 
 private:
-    std::atomic<T> value_ {};
+    std::atomic<T> value_{};
 };

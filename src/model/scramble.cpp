@@ -46,8 +46,8 @@ QString unwrap(const QString& text, int saltLength)
 
 std::optional<QString> unwrapStrictly(const QString& text, int saltLength)
 {
-    const auto decoded = QByteArray::fromBase64Encoding(text.toUtf8(),
-        QByteArray::Base64Encoding | QByteArray::AbortOnBase64DecodingErrors);
+    const auto decoded = QByteArray::fromBase64Encoding(
+        text.toUtf8(), QByteArray::Base64Encoding | QByteArray::AbortOnBase64DecodingErrors);
     if (!decoded || (*decoded).size() < 2 * saltLength)
         return std::nullopt;
     return withoutSalts(*decoded, saltLength);

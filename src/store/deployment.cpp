@@ -58,7 +58,8 @@ Result readObject(const QString& path, const QJsonValue& value, const Entry (&en
 Result readBaseUrl(const QString& key, const QJsonValue& value, Deployment& deployment)
 {
     const QUrl url(value.toString(), QUrl::StrictMode);
-    const bool web = url.scheme() == QLatin1String("https") || url.scheme() == QLatin1String("http");
+    const bool web =
+        url.scheme() == QLatin1String("https") || url.scheme() == QLatin1String("http");
     if (!value.isString() || !url.isValid() || !web || url.host().isEmpty())
         return expected(key, "a text with an http or https address");
     deployment.cloudBaseUrl = value.toString();
@@ -95,13 +96,13 @@ Result readSearchScope(const QString& key, const QJsonValue& value, Deployment& 
 // "host:port" or "[v6 address]:port"
 std::optional<Deployment::Endpoint> endpointOf(const QString& text)
 {
-    static const QRegularExpression form(QStringLiteral(
-        R"(\A(?:\[([0-9A-Fa-f:.]+)\]|([A-Za-z0-9][A-Za-z0-9.-]*)):([0-9]{1,5})\z)"));
+    static const QRegularExpression form(
+        QStringLiteral(R"(\A(?:\[([0-9A-Fa-f:.]+)\]|([A-Za-z0-9][A-Za-z0-9.-]*)):([0-9]{1,5})\z)"));
     const auto match = form.match(text);
     const uint port = match.captured(3).toUInt();
     if (!match.hasMatch() || port < 1 || port > 65535)
         return std::nullopt;
-    return Deployment::Endpoint {match.captured(1) + match.captured(2), static_cast<quint16>(port)};
+    return Deployment::Endpoint{match.captured(1) + match.captured(2), static_cast<quint16>(port)};
 }
 
 Result readAddressBook(const QString& key, const QJsonValue& value, Deployment& deployment)
@@ -124,14 +125,14 @@ Result readAddressBook(const QString& key, const QJsonValue& value, Deployment& 
 
 Result readLink(const QString& key, const QJsonValue& value, Deployment& deployment)
 {
-    static constexpr Entry entries[]
-        = {{"searchScope", readSearchScope}, {"addressBook", readAddressBook}};
+    static constexpr Entry entries[] = {
+        {"searchScope", readSearchScope}, {"addressBook", readAddressBook}};
     return readObject(key, value, entries, deployment);
 }
 
 QStringList searchFolders()
 {
-    QStringList folders {QCoreApplication::applicationDirPath()};
+    QStringList folders{QCoreApplication::applicationDirPath()};
     folders += QStandardPaths::standardLocations(QStandardPaths::AppConfigLocation);
     // The user's own folder holds settings, never a deployment.
     folders.removeAll(QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation));
@@ -164,16 +165,16 @@ Deployment read(QFile& file)
 
 std::variant<Deployment, Error> Deployment::parse(const QByteArray& json)
 {
-    static constexpr Entry entries[]
-        = {{"cloud", readCloud}, {"brand", readBrand}, {"link", readLink}};
-    QJsonParseError syntax {};
+    static constexpr Entry entries[] = {
+        {"cloud", readCloud}, {"brand", readBrand}, {"link", readLink}};
+    QJsonParseError syntax{};
     const QJsonDocument document = QJsonDocument::fromJson(json, &syntax);
     if (syntax.error != QJsonParseError::NoError)
-        return Error {{},
+        return Error{{},
             QStringLiteral("JSON (%1 at byte %2)").arg(syntax.errorString()).arg(syntax.offset)};
     Deployment deployment;
-    const QJsonValue whole
-        = document.isObject() ? QJsonValue(document.object()) : QJsonValue(document.array());
+    const QJsonValue whole =
+        document.isObject() ? QJsonValue(document.object()) : QJsonValue(document.array());
     if (const Result error = readObject({}, whole, entries, deployment))
         return *error;
     return deployment;

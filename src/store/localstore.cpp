@@ -191,8 +191,7 @@ QList<Record> recordsOf(const QList<Stored<Record>>& elements)
 
 // The index of the last element whose text in `field` is `text`, or -1.
 template <typename Record>
-int lastWith(
-    const QList<Stored<Record>>& elements, QString Record::*field, const QString& text)
+int lastWith(const QList<Stored<Record>>& elements, QString Record::*field, const QString& text)
 {
     for (int i = elements.size() - 1; i >= 0; --i) {
         if (elements.at(i).record.*field == text)
@@ -250,8 +249,7 @@ LocalStore::LocalStore()
 QString LocalStore::resolveCurrentPath()
 {
     const QString path = defaultPath();
-    const QString newPath
-        = IniFile(path).value(QStringLiteral("newpath"), defaultWord).toString();
+    const QString newPath = IniFile(path).value(QStringLiteral("newpath"), defaultWord).toString();
     return newPath == defaultWord ? path : newPath;
 }
 

@@ -35,8 +35,7 @@ public:
     QList<LoginRecord> loadLogins() const;
     // Puts the login to the front. A new name leaves room for three in all; a known name keeps the
     // length of the list. Names compare case-sensitively.
-    void saveLogin(
-        const QString& username, const QString& password, bool isremember, int language);
+    void saveLogin(const QString& username, const QString& password, bool isremember, int language);
 
     // In the order of their insertion.
     QList<LocalDeviceRecord> loadDevices() const;
