@@ -28,6 +28,7 @@ MainWindow::MainWindow(QWidget* parent)
 {
     ui_->setupUi(this);
     setWindowFlags(Qt::Widget);
+    setFocusPolicy(Qt::ClickFocus);
     ui_->label_icon_minimize->setPicture(keyPicture("win_min"));
     ui_->label_icon_fullscreen->setPicture(keyPicture("win_max"));
     ui_->label_icon_fullscreen->setCheckedPicture(keyPicture("win_restore"));
@@ -58,6 +59,7 @@ void MainWindow::setBrand(int number)
 void MainWindow::showWindow()
 {
     show();
+    setFocus(); // not the first key of the header
     placeDebugPanel();
 }
 

@@ -1,0 +1,111 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "svg.h"
+
+#include "problem.h"
+
+#include <QFile>
+#include <QSvgRenderer>
+
+namespace {
+
+QStringList* reports = nullptr;
+
+// QSvgRenderer drops what it does not understand and only logs it; here that is a failure.
+class SvgReports
+{
+public:
+    SvgReports()
+        : m_previous(qInstallMessageHandler(&SvgReports::take))
+    {
+        reports = &m_reports;
+    }
+    ~SvgReports()
+    {
+        reports = nullptr;
+        qInstallMessageHandler(m_previous);
+    }
+    Q_DISABLE_COPY_MOVE(SvgReports)
+
+    bool isEmpty() const { return m_reports.isEmpty(); }
+    QString first() const { return m_reports.first().simplified(); }
+
+private:
+    static void take(QtMsgType, const QMessageLogContext&, const QString& text)
+    {
+        reports->append(text);
+    }
+
+    QStringList m_reports;
+    QtMessageHandler m_previous;
+};
+
+// One SVG on its way to a renderer.
+class Source
+{
+public:
+    Source(const QString& path, const QString& entry)
+        : m_path(path)
+        , m_entry(entry)
+    {
+        QFile file(path);
+        if (!file.open(QIODevice::ReadOnly))
+            fail(QStringLiteral("cannot be read: ") + file.errorString());
+        m_bytes = file.readAll();
+        // The build machine may have no fonts at all.
+        if (m_bytes.contains("<text"))
+            fail(QStringLiteral("expected letters as paths, not as text"));
+    }
+
+    void setColour(const std::optional<QColor>& colour)
+    {
+        const bool uses = m_bytes.contains("currentColor");
+        if (uses && !colour)
+            fail(QStringLiteral("uses currentColor, expected a face with a colour"));
+        if (!uses && colour)
+            fail(QStringLiteral("does not use currentColor, expected a face without a colour"));
+        if (colour)
+            m_bytes.replace("currentColor", colour->name().toLatin1());
+    }
+
+    void replace(const Recolour& recolour)
+    {
+        if (!m_bytes.contains(recolour.from))
+            fail(QStringLiteral("expected the colour %1 in it, to be replaced")
+                     .arg(QString::fromLatin1(recolour.from)));
+        m_bytes.replace(recolour.from, recolour.to.name().toLatin1());
+    }
+
+    std::unique_ptr<QSvgRenderer> renderer() const
+    {
+        const SvgReports heard;
+        auto renderer = std::make_unique<QSvgRenderer>(m_bytes);
+        if (!heard.isEmpty())
+            fail(QStringLiteral("expected an SVG that Qt can draw: ") + heard.first());
+        if (!renderer->isValid())
+            fail(QStringLiteral("expected an SVG that Qt can draw"));
+        if (renderer->viewBoxF().isEmpty())
+            fail(QStringLiteral("expected an SVG with a size"));
+        return renderer;
+    }
+
+private:
+    [[noreturn]] void fail(const QString& expected) const
+    {
+        throw Problem(m_path, QStringLiteral("for ") + m_entry, expected);
+    }
+
+    QString m_path;
+    QString m_entry;
+    QByteArray m_bytes;
+};
+
+} // namespace
+
+std::unique_ptr<QSvgRenderer> loadSvg(const QString& path, const Face& face, const QString& entry)
+{
+    Source source(path, entry);
+    source.setColour(face.colour);
+    for (const Recolour& recolour : face.recolours)
+        source.replace(recolour);
+    return source.renderer();
+}
