@@ -805,11 +805,11 @@
     <name>SystemInfo</name>
     <message>
         <source>64bit</source>
-        <translation>64 бита</translation>
+        <translation>64-разрядная</translation>
     </message>
     <message>
         <source>32bit</source>
-        <translation>32 бита</translation>
+        <translation>32-разрядная</translation>
     </message>
 </context>
 <context>

@@ -479,7 +479,7 @@
     </message>
     <message>
         <source>The qr code has expired</source>
-        <translation>QR 码已过期</translation>
+        <translation>二维码已过期</translation>
     </message>
     <message>
         <source>The code has expired</source>

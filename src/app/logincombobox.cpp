@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/logincombobox.h"
 
+#include <QAbstractItemView>
 #include <QLineEdit>
 #include <QStyleOptionComboBox>
 #include <QStylePainter>
+
+#include <algorithm>
 
 LoginComboBox::LoginComboBox(QWidget* parent)
     : QComboBox(parent)
@@ -21,6 +24,19 @@ void LoginComboBox::makeEditable()
     lineEdit()->setContextMenuPolicy(Qt::NoContextMenu);
     // The box's own style string, which its focus replaces, must not frame the inner field too.
     lineEdit()->setStyleSheet(QStringLiteral("border:0;background:transparent;padding:0;"));
+}
+
+void LoginComboBox::showPopup()
+{
+    QComboBox::showPopup();
+    // The style sheet adds the box's padding, meant for its icon and arrow, to the list's width.
+    QWidget* list = view()->parentWidget();
+    const int frame = list->width() - view()->viewport()->width();
+    const int wanted = std::min(view()->sizeHintForColumn(0) + frame, 2 * width());
+    QRect place = list->geometry();
+    place.setWidth(std::max(width(), wanted));
+    place.moveCenter({mapToGlobal(rect().center()).x(), place.center().y()});
+    list->setGeometry(place);
 }
 
 void LoginComboBox::paintEvent(QPaintEvent* event)

@@ -16,6 +16,9 @@ public:
     // Makes the name editable, without completion and without a context menu.
     void makeEditable();
 
+    // The list is as wide as the box, or as its widest item, and stands centred on the box.
+    void showPopup() override;
+
 protected:
     void paintEvent(QPaintEvent* event) override;
 };

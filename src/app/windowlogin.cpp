@@ -400,6 +400,7 @@ void WindowLogin::openAccountPage(AccountNotice* page)
 {
     ui_->widget_loginPanel->hide();
     page->show();
+    page->setFocus();
 }
 
 void WindowLogin::backToLogin()
@@ -407,6 +408,7 @@ void WindowLogin::backToLogin()
     registerWindow_->hide();
     forgetWindow_->hide();
     ui_->widget_loginPanel->show();
+    userCombo_->setFocus();
 }
 
 void WindowLogin::logined()

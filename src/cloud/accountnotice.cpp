@@ -12,6 +12,7 @@ AccountNotice::AccountNotice(Purpose purpose, QWidget* parent)
 {
     ui_->setupUi(this);
     ui_->label_back->installEventFilter(this);
+    setFocusProxy(ui_->label_back);
     connect(
         SystemInfo::instance(), &SystemInfo::languageChangedMsg, this, &AccountNotice::retranslate);
     retranslate();

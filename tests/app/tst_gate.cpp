@@ -43,6 +43,7 @@ private slots:
     void accountPagesOpenAndLeadBack();
     void labelButtonsActOnSpace();
     void fieldsHaveNoContextMenu();
+    void languageListStandsCentredOnItsBox();
 
     void brandSetsLogoAndButton_data();
     void brandSetsLogoAndButton();
@@ -340,6 +341,17 @@ void TestGate::fieldsHaveNoContextMenu()
     QCOMPARE(gate.user()->contextMenuPolicy(), Qt::NoContextMenu);
     QCOMPARE(gate.user()->lineEdit()->contextMenuPolicy(), Qt::NoContextMenu);
     QCOMPARE(gate.password()->contextMenuPolicy(), Qt::NoContextMenu);
+}
+
+void TestGate::languageListStandsCentredOnItsBox()
+{
+    const Gate gate;
+    gate.language()->showPopup();
+    const QWidget* list = gate.language()->view()->parentWidget();
+    QTRY_VERIFY(list->isVisible());
+    QCOMPARE(list->width(), gate.language()->width());
+    QCOMPARE(list->x(), gate.language()->mapToGlobal(QPoint()).x());
+    gate.language()->hidePopup();
 }
 
 void TestGate::brandSetsLogoAndButton_data()

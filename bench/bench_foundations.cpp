@@ -1,0 +1,95 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "measure.h"
+
+#include "model/events.h"
+#include "model/task.h"
+
+#include <QApplication>
+#include <QEventLoop>
+
+namespace {
+
+// Counts results down and ends the loop with the last.
+class Receiver final : public QObject
+{
+public:
+    void await(int count)
+    {
+        left_ = count;
+        loop_.exec();
+    }
+    void take()
+    {
+        if (--left_ == 0)
+            loop_.quit();
+    }
+    bool event(QEvent* event) override
+    {
+        if (event->type() != ProgressEvent_setTime::number)
+            return QObject::event(event);
+        sum_ += eventCast<ProgressEvent_setTime>(event).result;
+        take();
+        return true;
+    }
+
+private:
+    QEventLoop loop_;
+    int left_ = 0;
+    int sum_ = 0;
+};
+
+// A task and its result event, against the thinnest way that Qt offers for the same round trip.
+void benchTask()
+{
+    Receiver receiver;
+    Device device;
+    device.setChannelCount(1);
+    Channel* channel = device.channel(0);
+    const auto ours = [&](int operations) {
+        for (int i = 0; i < operations; ++i) {
+            runTask(channel, [&receiver, channel] {
+                postResult(&receiver, new ProgressEvent_setTime(channel, 1));
+            });
+        }
+        receiver.await(operations);
+    };
+    const auto bare = [&](int operations) {
+        for (int i = 0; i < operations; ++i) {
+            QThreadPool::globalInstance()->start([&receiver] {
+                QMetaObject::invokeMethod(
+                    &receiver, [&receiver] { receiver.take(); }, Qt::QueuedConnection);
+            });
+        }
+        receiver.await(operations);
+    };
+    compare("task and result event, round trip", "thread pool and queued call", 2000, ours, bare);
+}
+
+void benchHold()
+{
+    Device device;
+    device.setChannelCount(1);
+    const ChannelHold hold(device.channel(0));
+    const auto shared = std::make_shared<int>(1);
+    compare(
+        "hold on a channel, copied and released", "std::shared_ptr copied and released", 1000000,
+        [&](int operations) {
+            for (int i = 0; i < operations; ++i)
+                const ChannelHold copy(hold);
+        },
+        [&](int operations) {
+            for (int i = 0; i < operations; ++i)
+                const std::shared_ptr<int> copy(shared);
+        });
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication app(argc, argv);
+    benchTask();
+    benchHold();
+    return 0;
+}
