@@ -74,12 +74,14 @@ void benchHold()
     compare(
         "hold on a channel, copied and released", "std::shared_ptr copied and released", 1000000,
         [&](int operations) {
+            ChannelHold copy;
             for (int i = 0; i < operations; ++i)
-                const ChannelHold copy(hold);
+                copy = hold;
         },
         [&](int operations) {
+            std::shared_ptr<int> copy;
             for (int i = 0; i < operations; ++i)
-                const std::shared_ptr<int> copy(shared);
+                copy = shared;
         });
 }
 

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <cstddef>
 #include <cstdio>
 #include <vector>
 
@@ -22,8 +23,9 @@ double nanosecondsPerOperation(int operations, Work& work)
 
 inline double median(std::vector<double> values)
 {
-    std::nth_element(values.begin(), values.begin() + values.size() / 2, values.end());
-    return values[values.size() / 2];
+    const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
+    std::nth_element(values.begin(), middle, values.end());
+    return *middle;
 }
 
 // `work` and `reference` take the number of operations to do. Prints one line: both figures and

@@ -19,7 +19,7 @@ struct MyFrameInfo_t
     std::uint32_t unused[2];
 };
 
-static_assert(sizeof(MyFrameInfo_t) == 7 * 4);
+static_assert(sizeof(MyFrameInfo_t) == 28);
 static_assert(offsetof(MyFrameInfo_t, flags) == 2);
 static_assert(offsetof(MyFrameInfo_t, timestamp) == 12);
 static_assert(offsetof(MyFrameInfo_t, frameNumber) == 16);

@@ -49,7 +49,7 @@ Result readObject(const QString& path, const QJsonValue& value, const Entry (&en
             [&](const Entry& e) { return it.key() == QLatin1String(e.key); });
         if (entry == std::end(entries))
             return expected(key, "no such key");
-        if (const Result error = entry->read(key, it.value(), deployment))
+        if (Result error = entry->read(key, it.value(), deployment))
             return error;
     }
     return {};

@@ -38,7 +38,7 @@ public:
                 quoted = !quoted;
         }
         complete = !quoted;
-        const QByteArray line = bytes_.mid(start, at_ - start).trimmed();
+        QByteArray line = bytes_.mid(start, at_ - start).trimmed();
         ++at_;
         return line;
     }
