@@ -34,9 +34,12 @@ install_missing() {
         || die "apt-get could not install: $missing"
 }
 
-# build PRESET: configures and builds one preset of CMakePresets.json.
+# build PRESET [TARGET...]: configures and builds one preset of CMakePresets.json.
 build() {
-    say "Building the preset '$1' in build/$1"
-    cmake --preset "$1" || die "configuring the preset '$1' failed; the message stands above"
-    cmake --build --preset "$1" || die "building the preset '$1' failed; the first error stands above"
+    local preset=$1
+    shift
+    say "Building the preset '$preset' in build/$preset"
+    cmake --preset "$preset" || die "configuring the preset '$preset' failed; the message stands above"
+    cmake --build --preset "$preset" ${1:+--target "$@"} \
+        || die "building the preset '$preset' failed; the first error stands above"
 }
