@@ -14,9 +14,11 @@ public:
     explicit ChannelSaveTimeout(Channel* channel = nullptr);
 
     void setChannel(Channel* channel) { channel_ = channel; }
+    // Starts, or starts again, also from a slot of timeout(Channel*).
+    void start(int ms);
 
 signals:
-    // Emitted before QTimer's own timeout().
+    // Emitted before QTimer's own timeout(). A slot may restart the timer or destroy it.
     void timeout(Channel* channel);
 
 protected:
@@ -24,4 +26,5 @@ protected:
 
 private:
     Channel* channel_;
+    bool restarted_ = false; // since the running timeout(Channel*) began
 };

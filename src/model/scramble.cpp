@@ -46,11 +46,13 @@ QString unwrap(const QString& text, int saltLength)
 
 std::optional<QString> unwrapStrictly(const QString& text, int saltLength)
 {
-    const auto decoded = QByteArray::fromBase64Encoding(
-        text.toUtf8(), QByteArray::Base64Encoding | QByteArray::AbortOnBase64DecodingErrors);
-    if (!decoded || (*decoded).size() < 2 * saltLength)
+    const QByteArray encoded = text.toUtf8();
+    const QByteArray decoded = QByteArray::fromBase64(encoded);
+    // Clean Base64, and the same salt at both ends: a text that was cut off anywhere fails.
+    if (decoded.toBase64() != encoded || decoded.size() < 2 * saltLength
+        || decoded.left(saltLength) != decoded.right(saltLength))
         return std::nullopt;
-    return withoutSalts(*decoded, saltLength);
+    return withoutSalts(decoded, saltLength);
 }
 
 } // namespace

@@ -19,6 +19,6 @@ QString scramble(const QString& text);
 // left of it, at worst an empty text. Any thread.
 QString unscramble(const QString& scrambled);
 
-// Whether the text has the form that scramble() gives: three layers of clean Base64, each long
-// enough for its two salts. Any thread.
+// Whether the text has the form that scramble() gives: three layers of clean Base64, each with the
+// same salt at both ends. Any thread.
 bool isScrambled(const QString& text);
