@@ -417,7 +417,7 @@ void TestGate::storedLanguageOfTwelveStartsInEnglish()
 
 void TestGate::damagedSettingsStartTheGateAndStayAsTheyAre()
 {
-    QByteArray damage("[login]\nsize=1000000\n1\\user\0name", 36);
+    const QByteArray damage = QByteArrayLiteral("[login]\nsize=1000000\n1\\user\0name");
     QFile file(LocalStore::instance()->currentPath());
     QVERIFY(file.open(QIODevice::WriteOnly));
     file.write(damage);
