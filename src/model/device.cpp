@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "model/device.h"
 
+#include "model/task.h"
+
 #include <QCoreApplication>
 #include <QEvent>
 
@@ -18,6 +20,7 @@ public:
         , device_(device)
     {
     }
+    ~LastHoldEvent() override { TaskPrivate::takeOver(this); }
 
 private:
     static int number()
@@ -65,7 +68,7 @@ void Device::release()
     // Not at once: the last hold may go on a worker thread, and whoever retires the device may
     // still be inside a signal that carries one of its channels.
     if (QCoreApplication* app = QCoreApplication::instance())
-        QCoreApplication::postEvent(app, new LastHoldEvent(this));
+        postResult(app, new LastHoldEvent(this));
     else
         delete this;
 }

@@ -22,10 +22,12 @@
 //         postResult(this, new ProgressEvent_setWifi(hold, avSendIOCtrl(...)));
 //     });
 //
-// The thread sanitizer cannot look into Qt's event queue and thread pool, so the two hand-overs
-// are told to it.
+// The thread sanitizer cannot look into Qt's thread pool and event queue, so both hand-overs are told
+// to it, by an address that both sides know.
 
 namespace TaskPrivate {
+
+inline char poolQueue; // stands for the pool's queue
 
 inline void handOver([[maybe_unused]] void* address)
 {
@@ -41,20 +43,44 @@ inline void takeOver([[maybe_unused]] void* address)
 #endif
 }
 
+// The stored call: what QtConcurrent copies into its own object, and runs there.
+template <typename Work>
+class Task
+{
+public:
+    Task(Channel* channel, Work work)
+        : hold_(channel)
+        , work_(std::move(work))
+    {
+    }
+    Task(const Task& other)
+        : hold_(other.hold_)
+        , work_(other.work_)
+    {
+        handOver(&poolQueue);
+    }
+    Task& operator=(const Task&) = delete;
+    ~Task() = default;
+
+    void operator()()
+    {
+        takeOver(&poolQueue);
+        work_();
+    }
+
+private:
+    ChannelHold hold_; // first, so that it outlives what the work has captured
+    Work work_;
+};
+
 } // namespace TaskPrivate
 
-// Runs `work` on the global pool. Main thread. `channel` may be null; its device is kept alive
-// until `work` has returned and its captures are gone.
+// Runs `work`, a copyable function object, on the global pool. Main thread. `channel` may be null;
+// its device is kept alive until `work` has returned and its captures are gone.
 template <typename Work>
 void runTask(Channel* channel, Work work)
 {
-    auto task = std::make_shared<Work>(std::move(work));
-    TaskPrivate::handOver(task.get());
-    QtConcurrent::run([task = std::move(task), hold = ChannelHold(channel)]() mutable {
-        TaskPrivate::takeOver(task.get());
-        (*task)();
-        task.reset();
-    });
+    QtConcurrent::run(TaskPrivate::Task<Work>(channel, std::move(work)));
 }
 
 // Hands `event` to `receiver`, whose event() runs on the main thread. Any thread.
@@ -68,7 +94,7 @@ inline void postResult(QObject* receiver, QEvent* event)
 template <class Event>
 Event& eventCast(QEvent* event)
 {
-    Q_ASSERT(event->type() == Event::number);
     TaskPrivate::takeOver(event);
+    Q_ASSERT(event->type() == Event::number);
     return static_cast<Event&>(*event);
 }
