@@ -69,7 +69,7 @@ typedef void (*IOTC_ConnectCallback)(int state, int result, void* userData);
 
 /* A device that answered a search. All texts are zero terminated. */
 #pragma pack(push, 1)
-typedef struct
+typedef struct IOTC_SearchRecord
 {
     char uid[21]; /* 20 characters A-Z 0-9 */
     char ip[47]; /* numeric IPv4 or IPv6 address */

@@ -800,6 +800,10 @@
         <source>Unsigned</source>
         <translation>Nicht angemeldet</translation>
     </message>
+    <message>
+        <source>Restore</source>
+        <translation>Wiederherstellen</translation>
+    </message>
 </context>
 <context>
     <name>SystemInfo</name>

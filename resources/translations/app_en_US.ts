@@ -800,6 +800,10 @@
         <source>Unsigned</source>
         <translation>Unsigned</translation>
     </message>
+    <message>
+        <source>Restore</source>
+        <translation>Restore</translation>
+    </message>
 </context>
 <context>
     <name>SystemInfo</name>

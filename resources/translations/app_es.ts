@@ -800,6 +800,10 @@
         <source>Unsigned</source>
         <translation>Sin iniciar sesión</translation>
     </message>
+    <message>
+        <source>Restore</source>
+        <translation>Restaurar</translation>
+    </message>
 </context>
 <context>
     <name>SystemInfo</name>

@@ -800,6 +800,10 @@
         <source>Unsigned</source>
         <translation>Non connecté</translation>
     </message>
+    <message>
+        <source>Restore</source>
+        <translation>Restaurer</translation>
+    </message>
 </context>
 <context>
     <name>SystemInfo</name>

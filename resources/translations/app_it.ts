@@ -800,6 +800,10 @@
         <source>Unsigned</source>
         <translation>Non autenticato</translation>
     </message>
+    <message>
+        <source>Restore</source>
+        <translation>Ripristina</translation>
+    </message>
 </context>
 <context>
     <name>SystemInfo</name>

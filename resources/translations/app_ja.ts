@@ -800,6 +800,10 @@
         <source>Unsigned</source>
         <translation>未ログイン</translation>
     </message>
+    <message>
+        <source>Restore</source>
+        <translation>元に戻す</translation>
+    </message>
 </context>
 <context>
     <name>SystemInfo</name>

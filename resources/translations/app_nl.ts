@@ -800,6 +800,10 @@
         <source>Unsigned</source>
         <translation>Niet ingelogd</translation>
     </message>
+    <message>
+        <source>Restore</source>
+        <translation>Herstellen</translation>
+    </message>
 </context>
 <context>
     <name>SystemInfo</name>

@@ -800,6 +800,10 @@
         <source>Unsigned</source>
         <translation>Вход не выполнен</translation>
     </message>
+    <message>
+        <source>Restore</source>
+        <translation>Восстановить</translation>
+    </message>
 </context>
 <context>
     <name>SystemInfo</name>

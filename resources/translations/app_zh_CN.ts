@@ -800,6 +800,10 @@
         <source>Unsigned</source>
         <translation>未登录</translation>
     </message>
+    <message>
+        <source>Restore</source>
+        <translation>还原</translation>
+    </message>
 </context>
 <context>
     <name>SystemInfo</name>

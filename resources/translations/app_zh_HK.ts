@@ -800,6 +800,10 @@
         <source>Unsigned</source>
         <translation>未登入</translation>
     </message>
+    <message>
+        <source>Restore</source>
+        <translation>還原</translation>
+    </message>
 </context>
 <context>
     <name>SystemInfo</name>

@@ -22,6 +22,10 @@ DebugRecord::DebugRecord(QWidget* parent)
 {
     ui_->setupUi(this);
     ui_->listView->setModel(&model_);
+    ui_->listView->setItemDelegate(&delegate_);
+    setFocusProxy(ui_->listView);
+    follow_.setSingleShot(true);
+    connect(&follow_, &QTimer::timeout, ui_->listView, &QListView::scrollToBottom);
     append(tr("[START]Debug mod is working,Waiting to record"));
     connect(SystemInfo::instance(), &SystemInfo::debugMsg, this, &DebugRecord::showDebug);
     connect(SystemInfo::instance(), &SystemInfo::languageChangedMsg, this,
@@ -48,6 +52,7 @@ void DebugRecord::append(const QString& line)
     model_.setData(model_.index(row), line);
     if (model_.rowCount() > maxLines)
         model_.removeRows(0, model_.rowCount() - maxLines);
+    delegate_.makeRoom(line, model_.index(0), ui_->listView->fontMetrics());
     if (atEnd)
-        ui_->listView->scrollToBottom();
+        follow_.start(0);
 }

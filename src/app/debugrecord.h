@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "app/logdelegate.h"
+
 #include <QStringListModel>
+#include <QTimer>
 #include <QWidget>
 
 #include <memory>
@@ -34,4 +37,6 @@ private:
 
     const std::unique_ptr<Ui::DebugRecord> ui_;
     QStringListModel model_;
+    LogDelegate delegate_;
+    QTimer follow_; // scrolls once for all lines of one turn of the event loop
 };

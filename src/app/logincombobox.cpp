@@ -5,6 +5,7 @@
 #include <QLineEdit>
 #include <QStyleOptionComboBox>
 #include <QStylePainter>
+#include <QWheelEvent>
 
 #include <algorithm>
 
@@ -57,4 +58,9 @@ void LoginComboBox::paintEvent(QPaintEvent* event)
     const QRect centred = rect().adjusted(margin, 0, -margin, 0);
     painter.drawText(
         centred, Qt::AlignCenter, fontMetrics().elidedText(text, Qt::ElideRight, centred.width()));
+}
+
+void LoginComboBox::wheelEvent(QWheelEvent* event)
+{
+    event->ignore();
 }

@@ -5,7 +5,8 @@
 
 // A combo box of the login window: the user name, typed or picked, or the language. A box that
 // cannot be edited shows its text centred. What is typed never becomes an item, and nothing is
-// completed, since a completed name would bring another account's password. Main thread.
+// completed, since a completed name would bring another account's password; nor does the mouse
+// wheel change account or language in passing. Main thread.
 class LoginComboBox final : public QComboBox
 {
     Q_OBJECT
@@ -21,4 +22,5 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
 };

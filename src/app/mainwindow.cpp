@@ -6,21 +6,16 @@
 #include "app/debugrecord.h"
 #include "app/dragarea.h"
 #include "app/labelsystembtn.h"
+#include "app/pictures.h"
 #include "app/systeminfo.h"
 #include "app/windowlogin.h"
 #include "cloud/userservice.h"
 #include "ui_mainwindow.h"
 
+#include <QShortcut>
+#include <QStyle>
+
 #include <cstdlib>
-
-namespace {
-
-QString keyPicture(const char* name)
-{
-    return QStringLiteral(":/main/images/btnImg/") + QLatin1String(name);
-}
-
-} // namespace
 
 MainWindow::MainWindow(QWidget* parent)
     : QMainWindow(parent)
@@ -42,6 +37,9 @@ MainWindow::MainWindow(QWidget* parent)
     connect(ui_->label_icon_fullscreen, &LabelSystemBtn::toggleMsg, this, &MainWindow::fullscreen);
     connect(ui_->label_icon_close, &LabelSystemBtn::clickMsg, this, &MainWindow::close);
     connect(ui_->label_debugClose, &LabelSystemBtn::clickMsg, this, &MainWindow::toggleDebugRecord);
+    auto* escape = new QShortcut(Qt::Key_Escape, ui_->widget_debugPanel);
+    escape->setContext(Qt::WidgetWithChildrenShortcut);
+    connect(escape, &QShortcut::activated, this, &MainWindow::toggleDebugRecord);
     setBrand(0);
 }
 
@@ -90,6 +88,7 @@ void MainWindow::minimize(LabelSystemBtn*)
 
 void MainWindow::fullscreen(LabelSystemBtn*, bool clickFlag)
 {
+    nameFullscreenKey();
     SystemInfo* system = SystemInfo::instance();
     if (clickFlag)
         emit system->fullScreenMsg();
@@ -109,13 +108,21 @@ void MainWindow::toggleDebugRecord()
         debugRecord_ = new DebugRecord(ui_->widget_debugPanel);
         ui_->layout_debugPanel->addWidget(debugRecord_);
     }
-    ui_->widget_debugPanel->setVisible(!ui_->widget_debugPanel->isVisible());
+    const bool open = !ui_->widget_debugPanel->isVisible();
+    ui_->widget_debugPanel->setVisible(open);
+    ui_->label_debugRecord_btn->setProperty("on", open);
+    ui_->label_debugRecord_btn->style()->polish(ui_->label_debugRecord_btn);
     placeDebugPanel();
+    if (open)
+        debugRecord_->setFocus();
+    else
+        setFocus();
 }
 
 void MainWindow::retranslate()
 {
     ui_->retranslateUi(this);
+    nameFullscreenKey();
     const QString title = tr(brandOf(brand_).title);
     setWindowTitle(title);
     if (windowLogin_ != nullptr)
@@ -125,13 +132,20 @@ void MainWindow::retranslate()
     ui_->label_userName->setText(user.isEmpty() ? tr("Unsigned") : user);
 }
 
+void MainWindow::nameFullscreenKey()
+{
+    LabelSystemBtn* key = ui_->label_icon_fullscreen;
+    key->setToolTip(key->isChecked() ? tr("Restore") : tr("Maximize"));
+    key->setAccessibleName(key->toolTip());
+}
+
 void MainWindow::placeDebugPanel()
 {
     constexpr QSize wanted(800, 584);
     constexpr int margin = 16;
     const QSize room = ui_->widget_stage->size() - QSize(2 * margin, 2 * margin);
     QRect place({}, wanted.boundedTo(room));
-    place.moveCenter(ui_->widget_stage->geometry().center());
+    place.moveCenter(ui_->widget_stage->rect().center());
     ui_->widget_debugPanel->setGeometry(place);
     ui_->widget_debugPanel->raise();
 }

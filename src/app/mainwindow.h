@@ -46,6 +46,7 @@ private slots:
 
 private:
     void retranslate();
+    void nameFullscreenKey();
     void placeDebugPanel();
 
     const std::unique_ptr<Ui::MainWindow> ui_;

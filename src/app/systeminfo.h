@@ -19,7 +19,7 @@ class SystemInfo final : public QObject
 
 public:
     // Stored by value in the remembered logins.
-    enum SYSTEM_TYPE_LAGNUAGE {
+    enum SYSTEM_TYPE_LAGNUAGE : int {
         English,
         ChineseSimplified,
         ChineseTraditional,

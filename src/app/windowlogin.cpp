@@ -6,11 +6,13 @@
 #include "app/dragarea.h"
 #include "app/logincombobox.h"
 #include "app/mainwindow.h"
+#include "app/pictures.h"
 #include "cloud/accountnotice.h"
 #include "cloud/userservice.h"
 #include "store/localstore.h"
 #include "ui_windowlogin.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QScreen>
@@ -28,7 +30,7 @@ struct Language
     std::optional<QLocale::Language> locale; // of the window; none leaves it as it was
 };
 
-// By the value of SYSTEM_TYPE_LAGNUAGE. Spanish and Russian never had a locale of their own here.
+// By the value of SYSTEM_TYPE_LAGNUAGE. Spanish and Russian keep the locale before them.
 const Language languages[SystemInfo::languageCount] = {
     {QT_TRANSLATE_NOOP("WindowLogin", "English"), "English", QLocale::English},
     {QT_TRANSLATE_NOOP("WindowLogin", "Chinese Simply"), "中文简体", QLocale::Chinese},
@@ -42,9 +44,9 @@ const Language languages[SystemInfo::languageCount] = {
     {QT_TRANSLATE_NOOP("WindowLogin", "Japanese"), "日本語", QLocale::Japanese},
 };
 
-QPixmap keyPicture(const char* name)
+QPixmap picture(const char* name)
 {
-    return QPixmap(QStringLiteral(":/main/images/btnImg/%1.png").arg(QLatin1String(name)));
+    return QPixmap(keyPicture(name) + QStringLiteral(".png"));
 }
 
 // The whole style string of a field: it is replaced, not added to.
@@ -52,6 +54,12 @@ QString fieldStyle(const char* borderColor)
 {
     return QStringLiteral("border-width:1px;border-style:solid;border-radius:4px;border-color: %1;")
         .arg(QLatin1String(borderColor));
+}
+
+// The main Return key, pressed and not held down; the keypad's Enter does nothing.
+bool isReturn(const QKeyEvent& key)
+{
+    return key.key() == Qt::Key_Return && !key.isAutoRepeat();
 }
 
 WindowLogin* theWindow = nullptr;
@@ -83,6 +91,9 @@ WindowLogin::WindowLogin(QWidget* parent)
     buildCombos();
     restoreLastLogin();
     connect(userCombo_, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
+        &WindowLogin::userEditIndexChanged);
+    // Also when the item picked is the current one, whose password a typed name has cleared.
+    connect(userCombo_, QOverload<int>::of(&QComboBox::activated), this,
         &WindowLogin::userEditIndexChanged);
     ui_->label_version->setText(QLatin1Char('v') + system->version());
     ui_->label_version->adjustSize();
@@ -160,6 +171,8 @@ void WindowLogin::installFilters()
              ui_->pushButton_login, userCombo_, ui_->lineEdit_password, ui_->widget_localLogin,
              ui_->label_forget, ui_->label_register})
         element->installEventFilter(this);
+    // A press on it must not drag the window by the strip it lies on.
+    ui_->label_close->setAttribute(Qt::WA_NoMousePropagation);
 }
 
 void WindowLogin::placeWindow()
@@ -178,6 +191,8 @@ void WindowLogin::centre(const QSize& size)
 
 void WindowLogin::setBrand(int number)
 {
+    if (theWindow != this)
+        return;
     brand_ = number;
     const Brand& brand = brandOf(number);
     QLabel* logo = ui_->label_logo;
@@ -186,10 +201,10 @@ void WindowLogin::setBrand(int number)
     QRect place({}, brand.loginLogoSize);
     place.moveCenter(middle);
     logo->setGeometry(place);
-    const QString picture = QLatin1String(brand.loginLogo);
+    const QString file = QLatin1String(brand.loginLogo);
     logo->setStyleSheet(
-        brand.logoScaled ? QString() : QStringLiteral("border-image:url(%1);").arg(picture));
-    logo->setPixmap(brand.logoScaled ? QPixmap(picture).scaled(
+        brand.logoScaled ? QString() : QStringLiteral("border-image:url(%1);").arg(file));
+    logo->setPixmap(brand.logoScaled ? QPixmap(file).scaled(
                         brand.loginLogoSize, Qt::KeepAspectRatio, Qt::SmoothTransformation)
                                      : QPixmap());
     applyBrandTexts();
@@ -219,7 +234,7 @@ void WindowLogin::setBusy(bool busy)
         QStringLiteral("QPushButton{background-color: %1;border: 1px solid %2;border-radius:4px;"
                        "color: %3;font-size:%4px;font-weight:%5;}"
                        "QPushButton:hover{background-color: %6;}"
-                       "QPushButton:focus{border: 2px solid #1B2330;}")
+                       "QPushButton:focus{border: 2px solid #2E5FC4;}")
             .arg(QLatin1String(busy ? brand.buttonBusy : brand.buttonColor),
                 QLatin1String(busy ? brand.buttonBusy : brand.buttonBorder),
                 QLatin1String(brand.buttonTextColor))
@@ -228,21 +243,20 @@ void WindowLogin::setBusy(bool busy)
             .arg(QLatin1String(busy ? brand.buttonBusy : brand.buttonHover)));
 }
 
-// The one text that must stay on one line however long a language makes it: it shrinks until it
-// fits.
+// The one text that must stay on one line however long a language makes it: its font shrinks.
 int WindowLogin::buttonFontPixels(const QString& text, bool busy) const
 {
     constexpr int margin = 12;
     QFont font = ui_->pushButton_login->font();
     font.setBold(true);
     const int room = ui_->pushButton_login->width() - 2 * margin;
-    int pixels = busy ? 14 : 19;
-    for (; pixels > 10; --pixels) {
+    constexpr int smallest = 14;
+    for (const int pixels : {19, 16}) {
         font.setPixelSize(pixels);
-        if (QFontMetrics(font).horizontalAdvance(text) <= room)
-            break;
+        if (!busy && QFontMetrics(font).horizontalAdvance(text) <= room)
+            return pixels;
     }
-    return pixels;
+    return smallest;
 }
 
 bool WindowLogin::eventFilter(QObject* watched, QEvent* event)
@@ -260,16 +274,17 @@ void WindowLogin::filterClose(const QEvent* event)
 {
     switch (event->type()) {
     case QEvent::Enter:
-        ui_->label_close->setPixmap(keyPicture("btn_close_pre"));
+        ui_->label_close->setPixmap(picture("btn_close_pre"));
         break;
     case QEvent::MouseButtonPress:
-        ui_->label_close->setPixmap(keyPicture("btn_close"));
+        ui_->label_close->setPixmap(picture("btn_close"));
         break;
     case QEvent::Leave:
-        ui_->label_close->setPixmap(keyPicture("btn_login_close_nor"));
+        ui_->label_close->setPixmap(picture("btn_login_close_nor"));
         break;
     case QEvent::MouseButtonRelease:
-        close();
+        if (static_cast<const QMouseEvent*>(event)->button() == Qt::LeftButton)
+            close();
         break;
     default:
         if (event->type() == QEvent::KeyPress && isActivation(event))
@@ -281,8 +296,7 @@ void WindowLogin::filterField(bool isUser, const QEvent* event)
 {
     if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut)
         showFieldFocus(isUser, event->type() == QEvent::FocusIn);
-    else if (event->type() == QEvent::KeyPress
-        && static_cast<const QKeyEvent*>(event)->key() == Qt::Key_Return)
+    else if (event->type() == QEvent::KeyPress && isReturn(static_cast<const QKeyEvent&>(*event)))
         signIn();
 }
 
@@ -296,7 +310,7 @@ void WindowLogin::showFieldFocus(bool isUser, bool focused)
     QLabel* icon = isUser ? ui_->label_userIcon : ui_->label_lockIcon;
     const char* name = isUser ? "login_user" : "login_lock";
     const char* focusedName = isUser ? "login_user-on" : "login_lock-on";
-    icon->setPixmap(keyPicture(focused ? focusedName : name));
+    icon->setPixmap(picture(focused ? focusedName : name));
 }
 
 void WindowLogin::filterActivation(const QObject* watched)
@@ -318,7 +332,7 @@ void WindowLogin::toggleEye()
     passwordVisible_ = !passwordVisible_;
     ui_->lineEdit_password->setEchoMode(passwordVisible_ ? QLineEdit::Normal : QLineEdit::Password);
     ui_->label_eye->setPixmap(
-        keyPicture(passwordVisible_ ? "btn_login_visible" : "btn_login_invisible"));
+        picture(passwordVisible_ ? "btn_login_visible" : "btn_login_invisible"));
 }
 
 void WindowLogin::signIn()
@@ -393,7 +407,7 @@ void WindowLogin::showPlaceholders()
 void WindowLogin::showMessage(const QString& text)
 {
     ui_->label_message->setText(text);
-    ui_->label_message->setToolTip(text);
+    ui_->label_message->setToolTip(text.toHtmlEscaped());
 }
 
 void WindowLogin::openAccountPage(AccountNotice* page)
@@ -432,6 +446,9 @@ void WindowLogin::logined()
     setWindowFlags(Qt::FramelessWindowHint);
     mainWindow_->showWindow();
     show();
+    // Hiding took the activation away, and the window manager, which gives the focus to the same
+    // window again, tells nothing new.
+    QApplication::setActiveWindow(this);
 }
 
 void WindowLogin::responseError(

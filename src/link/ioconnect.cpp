@@ -84,7 +84,25 @@ void takeQuality(IoConnect* link, QEvent* event)
         qDebug().nospace() << "send get quality success:" << sent.channel->number();
 }
 
+void emitSearchFailure(IoConnect* link, int result)
+{
+    if (result < 0)
+        emit link->startLANSearchFailMsg(result, ErrorMsg::p2pError(result));
+}
+
+void takeLanSearch(IoConnect* link, QEvent* event)
+{
+    emitSearchFailure(link, eventCast<ProgressEvent_LanSearch>(event).count);
+}
+
+void takeLanSearchStart(IoConnect* link, QEvent* event)
+{
+    emitSearchFailure(link, eventCast<ProgressEvent_LanSearchStart>(event).result);
+}
+
 const Row rows[] = {
+    {ProgressEvent_LanSearch::number, takeLanSearch},
+    {ProgressEvent_LanSearchStart::number, takeLanSearchStart},
     sent<ProgressEvent_StopStream, &IoConnect::videoRequestStopFailMsg>(),
     sent<ProgressEvent_StartStream, &IoConnect::videoRequestFailMsg>(),
     {ProgressEvent_getReplayVideoTime::number, takeReplayVideoTime},

@@ -27,6 +27,7 @@ public:
     bool event(QEvent* event) override;
 
 signals:
+    void startLANSearchFailMsg(int result, const QString& text);
     void connectChannelSuccessMsg(Channel* channel);
     void requestReplayVideoTimeSuccessMsg(Channel* channel);
     void ptzSuccessMsg(Channel* channel, int command);

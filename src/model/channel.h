@@ -10,6 +10,7 @@
 #include <QMetaType>
 
 #include <array>
+#include <atomic>
 #include <cstdint>
 #include <memory>
 
@@ -19,6 +20,10 @@ class GlWidgetViewWindow;
 // The half of a channel that exists twice, once for live view and once for replay.
 struct ChannelMode
 {
+    ChannelMode() = default;
+    ~ChannelMode() { delete[] yuvBuffer.load(); }
+    Q_DISABLE_COPY_MOVE(ChannelMode)
+
     // Shared with worker threads without a lock.
     Relaxed<int> avIndex{-1}; // AV channel of the library, negative when not started
     Relaxed<bool> highQuality{false}; // as the device last reported it; live only
@@ -30,13 +35,16 @@ struct ChannelMode
     Relaxed<bool> recordStarted{false}; // recording has seen its first key frame
     Relaxed<bool> audioOn{false};
 
+    // Written once, by the first decode task (release), read by the tile (acquire); the pixels
+    // have no lock, and torn pictures are accepted. Made with new[], freed with the channel.
+    std::atomic<std::uint8_t*> yuvBuffer{nullptr};
+
     // Recorder and decoder tasks only, under the locks of the stream.
     int recordCodec = 0;
     int recordAudioOpen = 0;
     int recordAudioStream = 0;
     QString recordFile; // empty when none is open
     QByteArray pcmBuffer; // sound held back for the recorder
-    std::unique_ptr<std::uint8_t[]> yuvBuffer; // allocated once, at the first picture
 
     // Main thread only.
     std::unique_ptr<ChannelSaveTimeout> recordTimer; // exists only while recording

@@ -10,29 +10,34 @@
 
 namespace {
 
-// Carries a device whose last hold has gone to the main thread, where it dies with the event:
-// delivered, or dropped at the end of the program.
+int lastHoldNumber()
+{
+    static const int registered = QEvent::registerEventType();
+    return registered;
+}
+
+} // namespace
+
+// Carries the last hold on a device to the main thread and lets it go there, when the event is
+// delivered or dropped. Work that has taken a new hold in the meantime keeps the device.
 class LastHoldEvent final : public QEvent
 {
 public:
     explicit LastHoldEvent(Device* device)
-        : QEvent(static_cast<Type>(number()))
+        : QEvent(static_cast<Type>(lastHoldNumber()))
         , device_(device)
     {
     }
-    ~LastHoldEvent() override { TaskPrivate::takeOver(this); }
-
-private:
-    static int number()
+    ~LastHoldEvent() override
     {
-        static const int registered = QEvent::registerEventType();
-        return registered;
+        HandOver::take(this);
+        if (device_->holds_.fetch_sub(1, std::memory_order_acq_rel) == 1)
+            delete device_;
     }
 
-    const std::unique_ptr<Device> device_;
+private:
+    Device* const device_;
 };
-
-} // namespace
 
 Device::~Device()
 {
@@ -63,12 +68,14 @@ Channel* Device::channel(int index) const
 
 void Device::release()
 {
-    if (holds_.fetch_sub(1, std::memory_order_acq_rel) != 1)
-        return;
+    int holds = holds_.load(std::memory_order_acquire);
+    while (holds > 1) {
+        if (holds_.compare_exchange_weak(holds, holds - 1, std::memory_order_acq_rel))
+            return;
+    }
     // Not at once: the last hold may go on a worker thread, and whoever retires the device may
-    // still be inside a signal that carries one of its channels.
+    // still be inside a signal that carries one of its channels. Without an application the
+    // process is ending, and the device stays.
     if (QCoreApplication* app = QCoreApplication::instance())
         postResult(app, new LastHoldEvent(this));
-    else
-        delete this;
 }

@@ -43,17 +43,19 @@ public:
     // A channel's number travels as one byte.
     static constexpr int maxChannels = 256;
 
-    // 0 counts as 1, more than maxChannels as maxChannels. The list of channels grows to `count` and never shrinks, since channels are
-    // borrowed: loops over channels run to channelCount(), not over all there are.
+    // 0 counts as 1, more than maxChannels as maxChannels. The list of channels grows to `count`
+    // and never shrinks, since channels are borrowed: loops over channels run to channelCount(),
+    // not over all there are.
     void setChannelCount(int count);
 
     // Null for an index that the list does not have.
     Channel* channel(int index) const;
     int channelListSize() const { return static_cast<int>(channels_.size()); }
 
-    // Gives up the owner's hold; the owner must not use the pointer afterwards. The device is
-    // destroyed from the main thread's event loop once no task and no event carries one of its
-    // channels. Main thread; only for a device made with `new`.
+    // Gives up the owner's hold. The device is destroyed from the main thread's event loop once no
+    // task and no event carries one of its channels; so plain pointers stay good to the end of the
+    // slot that retires it, unless that runs an event loop of its own. Main thread; only for a
+    // device made with `new`.
     void retire() { release(); }
 
     // Session of the link layer, shared with worker threads without a lock: `sid` below 0 and
@@ -63,6 +65,7 @@ public:
 
 private:
     friend class ChannelHold;
+    friend class LastHoldEvent;
     void retain() { holds_.fetch_add(1, std::memory_order_relaxed); }
     void release();
 

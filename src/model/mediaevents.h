@@ -11,7 +11,7 @@
 #include <memory>
 #include <utility>
 
-// Results of the tasks of `Stream`, `Video` and `Audio`, and log lines. The numbers continue those
+// Results of the tasks of `Stream`, `Video` and `Audio`. The numbers continue those
 // of progressevents.h. A buffer is freed with its event unless the receiver moves it out.
 
 template <int Number>

@@ -18,53 +18,53 @@
 // nothing cancels one. The receiver must outlive its tasks: receivers are singletons, or children
 // of one that are not deleted before it.
 //
-//     runTask(channel, [=, hold = ChannelHold(channel)] {
-//         postResult(this, new ProgressEvent_setWifi(hold, avSendIOCtrl(...)));
+//     runTask(channel, [this, channel, avIndex, request] {
+//         const int result = avSendIOCtrl(avIndex, ...);
+//         postResult(this, new ProgressEvent_setWifi(channel, result));
 //     });
-//
-// The thread sanitizer cannot look into Qt's thread pool and event queue, so both hand-overs are told
-// to it, by an address that both sides know.
 
-namespace TaskPrivate {
-
-inline char poolQueue; // stands for the pool's queue
-
-inline void handOver([[maybe_unused]] void* address)
+// The thread sanitizer cannot look into Qt's thread pool and event queue, so both hand-overs are
+// told to it, by an address that both sides know.
+class HandOver
 {
+public:
+    static void give([[maybe_unused]] void* address)
+    {
 #if defined(__SANITIZE_THREAD__)
-    __tsan_release(address);
+        __tsan_release(address);
 #endif
-}
-
-inline void takeOver([[maybe_unused]] void* address)
-{
+    }
+    static void take([[maybe_unused]] void* address)
+    {
 #if defined(__SANITIZE_THREAD__)
-    __tsan_acquire(address);
+        __tsan_acquire(address);
 #endif
-}
+    }
+    static inline char poolQueue = 0; // stands for the pool's queue
+};
 
 // The stored call: what QtConcurrent copies into its own object, and runs there.
 template <typename Work>
-class Task
+class StoredTask
 {
 public:
-    Task(Channel* channel, Work work)
+    StoredTask(Channel* channel, Work work)
         : hold_(channel)
         , work_(std::move(work))
     {
     }
-    Task(const Task& other)
+    StoredTask(const StoredTask& other)
         : hold_(other.hold_)
         , work_(other.work_)
     {
-        handOver(&poolQueue);
+        HandOver::give(&HandOver::poolQueue);
     }
-    Task& operator=(const Task&) = delete;
-    ~Task() = default;
+    StoredTask& operator=(const StoredTask&) = delete;
+    ~StoredTask() = default;
 
     void operator()()
     {
-        takeOver(&poolQueue);
+        HandOver::take(&HandOver::poolQueue);
         work_();
     }
 
@@ -73,20 +73,18 @@ private:
     Work work_;
 };
 
-} // namespace TaskPrivate
-
 // Runs `work`, a copyable function object, on the global pool. Main thread. `channel` may be null;
 // its device is kept alive until `work` has returned and its captures are gone.
 template <typename Work>
 void runTask(Channel* channel, Work work)
 {
-    QtConcurrent::run(TaskPrivate::Task<Work>(channel, std::move(work)));
+    QtConcurrent::run(StoredTask<Work>(channel, std::move(work)));
 }
 
 // Hands `event` to `receiver`, whose event() runs on the main thread. Any thread.
 inline void postResult(QObject* receiver, QEvent* event)
 {
-    TaskPrivate::handOver(event);
+    HandOver::give(event);
     QCoreApplication::postEvent(receiver, event, Qt::NormalEventPriority);
 }
 
@@ -94,7 +92,7 @@ inline void postResult(QObject* receiver, QEvent* event)
 template <class Event>
 Event& eventCast(QEvent* event)
 {
-    TaskPrivate::takeOver(event);
+    HandOver::take(event);
     Q_ASSERT(event->type() == Event::number);
     return static_cast<Event&>(*event);
 }

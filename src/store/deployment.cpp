@@ -102,6 +102,9 @@ std::optional<Deployment::Endpoint> endpointOf(const QString& text)
     const uint port = match.captured(3).toUInt();
     if (!match.hasMatch() || port < 1 || port > 65535)
         return std::nullopt;
+    const QString v6 = match.captured(1);
+    if (!v6.isEmpty() && !QUrl(QStringLiteral("http://[%1]/").arg(v6), QUrl::StrictMode).isValid())
+        return std::nullopt;
     return Deployment::Endpoint{match.captured(1) + match.captured(2), static_cast<quint16>(port)};
 }
 
@@ -142,9 +145,14 @@ QStringList searchFolders()
 void report(const QString& path, const Error& error)
 {
     const QString key = error.key.isEmpty() ? QStringLiteral("(whole file)") : error.key;
-    const QString line = QStringLiteral("%1: %2: expected %3; starting with the defaults\n")
-                             .arg(path, key, error.expected);
-    std::fputs(line.toLocal8Bit().constData(), stderr);
+    QString line = QStringLiteral("%1: %2: expected %3; starting with the defaults")
+                       .arg(path, key, error.expected);
+    // One harmless line, whatever stands in a key.
+    for (QChar& c : line) {
+        if (!c.isPrint())
+            c = QLatin1Char('?');
+    }
+    std::fputs((line + QLatin1Char('\n')).toLocal8Bit().constData(), stderr);
 }
 
 Deployment read(QFile& file)

@@ -23,11 +23,15 @@ public:
 
     bool atEnd() const { return at_ >= bytes_.size(); }
 
-    // The next line; `complete` is false when the file ends inside quotes.
+    // The next line; `complete` is false when the file ends inside quotes, and when QSettings
+    // would drop what stands behind a semicolon.
     QByteArray next(bool& complete)
     {
+        while (!atEnd() && isBlank(bytes_.at(at_)))
+            ++at_;
         const int start = at_;
         bool quoted = false;
+        bool cut = false;
         while (!atEnd() && (quoted || !isBreak(bytes_.at(at_)))) {
             const char c = bytes_.at(at_++);
             if (isComment(start, c))
@@ -36,16 +40,19 @@ public:
                 ++at_;
             else if (c == '"')
                 quoted = !quoted;
+            else if (c == ';' && !quoted)
+                cut = true;
         }
-        complete = !quoted;
+        complete = !quoted && !cut;
         QByteArray line = bytes_.mid(start, at_ - start).trimmed();
         ++at_;
         return line;
     }
 
 private:
+    static bool isBlank(char c) { return c == ' ' || c == '\t'; }
     static bool isBreak(char c) { return c == '\n' || c == '\r'; }
-    bool isComment(int start, char c) const { return at_ == start + 1 && (c == ';' || c == '#'); }
+    bool isComment(int start, char c) const { return at_ == start + 1 && c == ';'; }
     void skipToBreak()
     {
         while (!atEnd() && !isBreak(bytes_.at(at_)))
@@ -58,9 +65,9 @@ private:
 
 bool isIniLine(const QByteArray& line)
 {
-    if (line.isEmpty() || line.startsWith(';') || line.startsWith('#'))
+    if (line.isEmpty() || line.startsWith(';'))
         return true;
-    return line.startsWith('[') ? line.contains(']') : line.contains('=');
+    return line.startsWith('[') ? line.indexOf(']') == line.size() - 1 : line.contains('=');
 }
 
 } // namespace
@@ -69,7 +76,10 @@ bool isIntactIni(const QByteArray& bytes)
 {
     if (std::any_of(bytes.begin(), bytes.end(), isBinary))
         return false;
-    IniLines lines(bytes);
+    const QByteArray byteOrderMark = QByteArrayLiteral("\xef\xbb\xbf");
+    const bool marked = bytes.startsWith(byteOrderMark);
+    const QByteArray text = marked ? bytes.mid(byteOrderMark.size()) : bytes;
+    IniLines lines(text);
     while (!lines.atEnd()) {
         bool complete = false;
         const QByteArray line = lines.next(complete);

@@ -44,19 +44,13 @@ bool isIntact(const QString& path)
     return file.open(QIODevice::ReadOnly) && isIntactIni(file.readAll());
 }
 
-// One of the two files, opened for one operation. What was set is on disk when it goes.
+// One of the two files, opened for one operation.
 class IniFile final : public QSettings
 {
 public:
     explicit IniFile(const QString& path)
         : QSettings(path, QSettings::IniFormat)
     {
-    }
-    ~IniFile() override
-    {
-        sync();
-        if (status() == AccessError)
-            qWarning("The settings file %s cannot be written.", qUtf8Printable(fileName()));
     }
 
     // Whether writing loses nothing that stands in the file; says so in the log where it would.
@@ -66,26 +60,48 @@ public:
         if (!intact)
             qWarning("The settings file %s is damaged or cannot be read; it is left as it is.",
                 qUtf8Printable(fileName()));
-        return intact;
+        // What QSettings fails to write stays in its cache: shown as if stored, and written later.
+        const bool writable = intact && isWritable();
+        if (intact && !writable)
+            qWarning("The settings file %s cannot be written.", qUtf8Printable(fileName()));
+        return writable;
+    }
+
+    // Brings what was set to the disk; says so in the log where that fails.
+    bool commit()
+    {
+        sync();
+        if (status() == AccessError)
+            qWarning("The settings file %s cannot be written.", qUtf8Printable(fileName()));
+        return status() != AccessError;
     }
 };
 
-// A record and, of its scrambled texts, those that could not be read, by key: they go back as they
-// stood.
+// A record and, of its values, those that could not be read, by key: they go back as they stood.
 template <typename Record>
 struct Stored
 {
     Record record;
-    QHash<QString, QString> unread;
+    QHash<QString, QVariant> unread;
 };
+
+// Scrambled anew, a text outside ASCII would double at each rewrite.
+bool isAscii(const QString& text)
+{
+    return std::all_of(text.begin(), text.end(), [](QChar c) { return c.unicode() < 0x80; });
+}
 
 template <typename Record>
 QString readText(const QSettings& file, const QString& key, Stored<Record>& stored)
 {
-    const QString text = file.value(key).toString();
-    if (!text.isEmpty() && !isScrambled(text))
-        stored.unread.insert(key, text);
-    return unscramble(text);
+    const QVariant value = file.value(key, QString());
+    const QString text = value.toString();
+    const QString clear = unscramble(text);
+    // A text with commas is a list to QSettings, and no string at all.
+    const bool empty = text.isEmpty() && value.type() == QVariant::String;
+    if (!empty && (!isScrambled(text) || !isAscii(clear)))
+        stored.unread.insert(key, value);
+    return clear;
 }
 
 template <typename Record>
@@ -93,7 +109,36 @@ void writeText(
     QSettings& file, const QString& key, const QString& text, const Stored<Record>& stored)
 {
     const auto unread = stored.unread.constFind(key);
-    file.setValue(key, unread == stored.unread.constEnd() ? scramble(text) : *unread);
+    file.setValue(key, unread == stored.unread.constEnd() ? QVariant(scramble(text)) : *unread);
+}
+
+template <typename Record>
+int readInt(const QSettings& file, const QString& key, Stored<Record>& stored)
+{
+    const QVariant value = file.value(key, 0);
+    bool valid = false;
+    const int number = value.toInt(&valid);
+    if (!valid)
+        stored.unread.insert(key, value);
+    return number;
+}
+
+template <typename Record>
+bool readBool(const QSettings& file, const QString& key, Stored<Record>& stored)
+{
+    const QVariant value = file.value(key, false);
+    const QStringList words{
+        QStringLiteral("true"), QStringLiteral("false"), QStringLiteral("1"), QStringLiteral("0")};
+    if (!words.contains(value.toString()))
+        stored.unread.insert(key, value);
+    return value.toBool();
+}
+
+template <typename Record>
+void writePlain(
+    QSettings& file, const QString& key, const QVariant& value, const Stored<Record>& stored)
+{
+    file.setValue(key, stored.unread.value(key, value));
 }
 
 void readRecord(const QSettings& file, Stored<LoginRecord>& stored)
@@ -101,8 +146,8 @@ void readRecord(const QSettings& file, Stored<LoginRecord>& stored)
     LoginRecord& login = stored.record;
     login.username = readText(file, usernameKey, stored);
     login.password = readText(file, passwordKey, stored);
-    login.isremember = file.value(rememberKey).toBool();
-    login.language = file.value(languageKey).toInt();
+    login.isremember = readBool(file, rememberKey, stored);
+    login.language = readInt(file, languageKey, stored);
 }
 
 void writeRecord(QSettings& file, const Stored<LoginRecord>& stored)
@@ -110,15 +155,15 @@ void writeRecord(QSettings& file, const Stored<LoginRecord>& stored)
     const LoginRecord& login = stored.record;
     writeText(file, usernameKey, login.username, stored);
     writeText(file, passwordKey, login.password, stored);
-    file.setValue(rememberKey, login.isremember);
-    file.setValue(languageKey, login.language);
+    writePlain(file, rememberKey, login.isremember, stored);
+    writePlain(file, languageKey, login.language, stored);
 }
 
 void readRecord(const QSettings& file, Stored<LocalDeviceRecord>& stored)
 {
     LocalDeviceRecord& device = stored.record;
-    device.type = file.value(typeKey).toInt();
-    device.channel = file.value(channelKey).toInt();
+    device.type = readInt(file, typeKey, stored);
+    device.channel = readInt(file, channelKey, stored);
     device.uid = readText(file, uidKey, stored);
     device.nickname = readText(file, nicknameKey, stored);
     device.username = readText(file, usernameKey, stored);
@@ -128,8 +173,8 @@ void readRecord(const QSettings& file, Stored<LocalDeviceRecord>& stored)
 void writeRecord(QSettings& file, const Stored<LocalDeviceRecord>& stored)
 {
     const LocalDeviceRecord& device = stored.record;
-    file.setValue(typeKey, device.type);
-    file.setValue(channelKey, device.channel);
+    writePlain(file, typeKey, device.type, stored);
+    writePlain(file, channelKey, device.channel, stored);
     writeText(file, uidKey, device.uid, stored);
     writeText(file, nicknameKey, device.nickname, stored);
     writeText(file, usernameKey, device.username, stored);
@@ -146,7 +191,8 @@ QList<int> elementNumbers(const QSettings& group)
     QList<int> numbers;
     for (const QString& name : group.childGroups()) {
         const int number = name.toInt();
-        if (number >= 1 && (!sizeValid || number <= size))
+        const bool exact = QString::number(number) == name;
+        if (exact && number >= 1 && (!sizeValid || number <= size))
             numbers.append(number);
     }
     std::sort(numbers.begin(), numbers.end());
@@ -205,8 +251,10 @@ void moveDevices(QSettings& from, QSettings& to)
     auto devices = readArray<LocalDeviceRecord>(from, deviceArray);
     for (auto& stored : devices) {
         // The account goes through the unscrambling direction once more, as installed files have
-        // it: it is not in scrambled form in the new file.
-        stored.unread.insert(usernameKey, unscramble(stored.record.username));
+        // it: it is not in scrambled form in the new file. One that could not be read stays.
+        const QString unread = stored.unread.value(usernameKey).toString();
+        if (unread.isEmpty() || isScrambled(unread))
+            stored.unread.insert(usernameKey, unscramble(stored.record.username));
     }
     writeArray(to, deviceArray, devices);
 }
@@ -223,27 +271,36 @@ void moveConfig(const QSettings& from, QSettings& to)
 
 bool isSameFile(const QString& a, const QString& b)
 {
-    return QDir::cleanPath(QFileInfo(a).absoluteFilePath())
-        == QDir::cleanPath(QFileInfo(b).absoluteFilePath());
+    // The files need not exist, but their folders have one true name, links or not.
+    const QFileInfo first(a);
+    const QFileInfo second(b);
+    if (first.exists() && second.exists())
+        return first.canonicalFilePath() == second.canonicalFilePath();
+    return first.fileName() == second.fileName()
+        && QFileInfo(first.path()).canonicalFilePath()
+        == QFileInfo(second.path()).canonicalFilePath();
 }
 
-LocalStore* theStore = nullptr;
+bool writeValue(const QString& path, const QString& key, const QVariant& value)
+{
+    IniFile file(path);
+    if (!file.mayWrite())
+        return false;
+    file.setValue(key, value);
+    return file.commit();
+}
 
 } // namespace
 
 LocalStore* LocalStore::instance()
 {
-    if (theStore == nullptr)
-        new LocalStore; // stores itself
-    return theStore;
+    static LocalStore* const store = new LocalStore;
+    return store;
 }
 
 LocalStore::LocalStore()
+    : path_(resolveCurrentPath())
 {
-    if (theStore != nullptr)
-        return;
-    theStore = this;
-    path_ = resolveCurrentPath();
 }
 
 QString LocalStore::resolveCurrentPath()
@@ -258,11 +315,9 @@ QVariant LocalStore::readDefault(const QString& key, const QVariant& defaultValu
     return IniFile(defaultPath()).value(key, defaultValue);
 }
 
-void LocalStore::writeDefault(const QString& key, const QVariant& value)
+bool LocalStore::writeDefault(const QString& key, const QVariant& value)
 {
-    IniFile file(defaultPath());
-    if (file.mayWrite())
-        file.setValue(key, value);
+    return writeValue(defaultPath(), key, value);
 }
 
 QVariant LocalStore::read(const QString& key, const QVariant& defaultValue) const
@@ -272,9 +327,7 @@ QVariant LocalStore::read(const QString& key, const QVariant& defaultValue) cons
 
 void LocalStore::write(const QString& key, const QVariant& value)
 {
-    IniFile file(path_);
-    if (file.mayWrite())
-        file.setValue(key, value);
+    writeValue(path_, key, value);
 }
 
 QList<LoginRecord> LocalStore::loadLogins() const
@@ -298,6 +351,7 @@ void LocalStore::saveLogin(
         logins.erase(logins.begin() + std::min(logins.size(), longest - 1), logins.end());
     logins.prepend({{username, password, isremember, language}, {}});
     writeArray(file, loginArray, logins);
+    file.commit();
 }
 
 QList<LocalDeviceRecord> LocalStore::loadDevices() const
@@ -318,6 +372,7 @@ void LocalStore::saveDevice(const LocalDeviceRecord& record)
     else
         devices.append({record, {}});
     writeArray(file, deviceArray, devices);
+    file.commit();
 }
 
 void LocalStore::removeDevice(const QString& uid)
@@ -330,6 +385,13 @@ void LocalStore::removeDevice(const QString& uid)
     if (known >= 0)
         devices.removeAt(known);
     writeArray(file, deviceArray, devices);
+    file.commit();
+}
+
+bool LocalStore::hasSettings() const
+{
+    const QStringList groups = IniFile(path_).childGroups();
+    return groups.contains(deviceArray) || groups.contains(configGroup);
 }
 
 int LocalStore::moveTo(const QString& newPath)
@@ -345,10 +407,10 @@ int LocalStore::moveTo(const QString& newPath)
         return notWritable;
     moveDevices(from, to);
     moveConfig(from, to);
-    to.sync();
-    if (to.status() != QSettings::NoError)
+    if (!to.commit())
         return notWritable;
     from.remove(deviceArray);
     from.remove(configGroup);
+    from.commit();
     return done;
 }

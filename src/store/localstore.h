@@ -21,13 +21,12 @@ class LocalStore final
 public:
     static LocalStore* instance();
 
-    // Settles the path of the current file, in the first object of the process only.
-    LocalStore();
     LocalStore(const LocalStore&) = delete;
     LocalStore& operator=(const LocalStore&) = delete;
 
     QVariant readDefault(const QString& key, const QVariant& defaultValue) const;
-    void writeDefault(const QString& key, const QVariant& value);
+    // Whether the value is on the disk.
+    bool writeDefault(const QString& key, const QVariant& value);
     QVariant read(const QString& key, const QVariant& defaultValue) const;
     void write(const QString& key, const QVariant& value);
 
@@ -49,11 +48,16 @@ public:
     // old path; the new one counts from the next start.
     int moveTo(const QString& newPath);
 
+    // Whether the current file holds anything that moveTo() would move.
+    bool hasSettings() const;
+
     QString currentPath() const { return path_; }
 
     // The path of the current file as the default file tells it now.
     static QString resolveCurrentPath();
 
 private:
-    QString path_;
+    LocalStore();
+
+    const QString path_;
 };

@@ -53,12 +53,19 @@ QString Location::getConfigPath() const
 
 int Location::setConfigPath(QString& folder)
 {
+    constexpr int done = 0;
     constexpr int notAFolder = 1;
+    constexpr int notWritable = 2;
     if (!QFileInfo(folder).isDir())
         return notAFolder;
     folder += QStringLiteral("/ORVA.ini");
     LocalStore* store = LocalStore::instance();
-    store->writeDefault(newPathKey, folder);
+    // Moved in this run already, and nothing came after: moving nothing would empty the new file.
+    if (store->readDefault(newPathKey, defaultWord) == folder && !store->hasSettings())
+        return done;
+    // A move that the next start does not know of would hide the settings.
+    if (!store->writeDefault(newPathKey, folder))
+        return notWritable;
     return store->moveTo(folder);
 }
 

@@ -18,7 +18,8 @@ public:
     // The path of the file that holds devices and `config` at the next start.
     QString getConfigPath() const;
     // Extends `folder` to the path of the file in it, and moves the settings there. 0: done; 1:
-    // `folder` is no folder, nothing has changed; 2: not writable, while `newpath` already names it.
+    // `folder` is no folder, nothing has changed; 2: not writable, while `newpath` may already
+    // name it.
     int setConfigPath(QString& folder);
 
     int getTimeLength() const; // minutes of one recording segment

@@ -6,6 +6,7 @@
 
 #include <QListView>
 #include <QRegularExpression>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QTemporaryFile>
 #include <QTest>
@@ -32,6 +33,7 @@ private slots:
     void fatalMessageAbortsTheProcess();
     void oldestLinesGoPastTheLimit();
     void listFollowsItsEndOnlyWhileItIsThere();
+    void longAndBrokenLinesStayReadable();
 };
 
 namespace {
@@ -200,12 +202,31 @@ void TestDebugLog::listFollowsItsEndOnlyWhileItIsThere()
     const auto* list = record.findChild<QListView*>();
     for (int i = 0; i < 100; ++i)
         record.showDebug(QtInfoMsg, QString::number(i));
-    QCoreApplication::processEvents();
+    QTRY_VERIFY(list->visualRect(list->model()->index(100, 0)).isValid());
+    QTest::qWait(0);
     QVERIFY(list->visualRect(list->model()->index(100, 0)).intersects(list->viewport()->rect()));
     record.findChild<QListView*>()->scrollToTop();
     record.showDebug(QtInfoMsg, "one more");
     QCoreApplication::processEvents();
     QVERIFY(list->visualRect(list->model()->index(0, 0)).intersects(list->viewport()->rect()));
+}
+
+// One row each, reached by the scroll bar, whatever came before.
+void TestDebugLog::longAndBrokenLinesStayReadable()
+{
+    DebugRecord record;
+    record.resize(400, 200);
+    record.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&record));
+    const auto* list = record.findChild<QListView*>();
+    const QString longLine(300, QLatin1Char('x'));
+    record.showDebug(QtInfoMsg, longLine);
+    record.showDebug(QtInfoMsg, "two\nlines");
+    const int wanted = list->fontMetrics().horizontalAdvance(longLine);
+    QTRY_VERIFY(list->horizontalScrollBar()->maximum() + list->viewport()->width() > wanted);
+    QCOMPARE(list->visualRect(list->model()->index(2, 0)).height(),
+        list->visualRect(list->model()->index(0, 0)).height());
+    QVERIFY(record.lines().last().endsWith("]two\nlines"));
 }
 
 ORVA_TEST(TestDebugLog)

@@ -9,6 +9,7 @@
 #include <QCheckBox>
 #include <QPushButton>
 #include <QSignalSpy>
+#include <QWheelEvent>
 
 class TestGate final : public QObject
 {
@@ -43,6 +44,11 @@ private slots:
     void accountPagesOpenAndLeadBack();
     void labelButtonsActOnSpace();
     void fieldsHaveNoContextMenu();
+    void heldReturnSignsInOnce();
+    void pickingTheCurrentItemBringsItsPasswordBack();
+    void mouseWheelChangesNeitherAccountNorLanguage();
+    void partsHaveAccessibleNames();
+    void htmlInAMessageIsShownAsText();
     void languageListStandsCentredOnItsBox();
 
     void brandSetsLogoAndButton_data();
@@ -343,6 +349,64 @@ void TestGate::fieldsHaveNoContextMenu()
     QCOMPARE(gate.password()->contextMenuPolicy(), Qt::NoContextMenu);
 }
 
+void TestGate::heldReturnSignsInOnce()
+{
+    const Gate gate;
+    gate.user()->setEditText("anna");
+    gate.password()->setText("secret");
+    QSignalSpy errors(UserService::instance(), &UserService::responseErrorMsg);
+    QKeyEvent first(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r", false);
+    QKeyEvent repeated(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r", true);
+    QCoreApplication::sendEvent(gate.password(), &first);
+    QCoreApplication::sendEvent(gate.password(), &repeated);
+    QCoreApplication::processEvents();
+    QCOMPARE(errors.size(), 1);
+}
+
+void TestGate::pickingTheCurrentItemBringsItsPasswordBack()
+{
+    LocalStore::instance()->saveLogin("anna", "secret", true, 0);
+    const Gate gate;
+    gate.user()->setEditText("anna2");
+    QCOMPARE(gate.password()->text(), QString());
+    gate.user()->setFocus();
+    gate.user()->showPopup();
+    QTRY_VERIFY(gate.user()->view()->isVisible());
+    QTest::keyClick(gate.user()->view(), Qt::Key_Return);
+    QTRY_COMPARE(gate.user()->currentText(), QString("anna"));
+    QCOMPARE(gate.password()->text(), QString("secret"));
+}
+
+void TestGate::mouseWheelChangesNeitherAccountNorLanguage()
+{
+    LocalStore::instance()->saveLogin("bert", "other", true, 0);
+    LocalStore::instance()->saveLogin("anna", "secret", true, 0);
+    const Gate gate;
+    for (LoginComboBox* box : {gate.user(), gate.language()}) {
+        const int before = box->currentIndex();
+        QWheelEvent wheel(QPointF(5, 5), box->mapToGlobal(QPoint(5, 5)), {}, QPoint(0, -120),
+            Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(box, &wheel);
+        QCOMPARE(box->currentIndex(), before);
+    }
+}
+
+void TestGate::partsHaveAccessibleNames()
+{
+    const Gate gate;
+    for (const char* name :
+        {"comboBox_user", "lineEdit_password", "widget_localLogin", "label_eye", "label_close"})
+        QVERIFY2(!gate.part(name)->accessibleName().isEmpty(), name);
+}
+
+void TestGate::htmlInAMessageIsShownAsText()
+{
+    const Gate gate;
+    emit UserService::instance()->responseErrorMsg("login", "Server Error", 1, "<img src=x>");
+    QCOMPARE(gate.message(), QString("[Server Error]:(1)<img src=x>"));
+    QVERIFY(gate.part("label_message")->toolTip().endsWith("&lt;img src=x&gt;"));
+}
+
 void TestGate::languageListStandsCentredOnItsBox()
 {
     const Gate gate;
@@ -386,7 +450,8 @@ void TestGate::brandSetsLogoAndButton()
 void TestGate::secondWindowStaysEmpty()
 {
     const Gate gate;
-    const WindowLogin second;
+    WindowLogin second;
+    second.setBrand(149);
     QVERIFY(second.findChildren<QWidget*>().isEmpty());
 }
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/debugrecord.h"
+#include "app/labelsystembtn.h"
 #include "app/mainwindow.h"
 #include "gate.h"
 #include "testmain.h"
@@ -17,6 +18,8 @@ private slots:
     void debugRecordOpensAndCloses();
     void closedDebugRecordGoesOnCollecting();
     void debugPanelStaysInsideASmallFrame();
+    void escapeClosesTheDebugRecord();
+    void fullscreenKeyNamesWhatItDoes();
 };
 
 void TestMainWindow::headerShowsVersionAndUser()
@@ -89,6 +92,30 @@ void TestMainWindow::debugPanelStaysInsideASmallFrame()
     // Again until it holds: the window manager may still be placing the new frame.
     QTRY_VERIFY((gate.window.resize(640, 400), stage->width() <= 640));
     QTRY_VERIFY(stage->rect().contains(panel->geometry()));
+}
+
+void TestMainWindow::escapeClosesTheDebugRecord()
+{
+    const Gate gate;
+    gate.press("widget_localLogin");
+    QTRY_VERIFY(gate.window.isActiveWindow());
+    gate.press("label_debugRecord_btn");
+    auto* record = gate.window.findChild<DebugRecord*>();
+    QTRY_VERIFY(record->focusProxy()->hasFocus());
+    QTest::keyClick(record->focusProxy(), Qt::Key_Escape);
+    QTRY_VERIFY(!gate.part("widget_debugPanel")->isVisible());
+}
+
+void TestMainWindow::fullscreenKeyNamesWhatItDoes()
+{
+    const Gate gate;
+    gate.press("widget_localLogin");
+    auto* key = gate.part<LabelSystemBtn>("label_icon_fullscreen");
+    QCOMPARE(key->toolTip(), QString("Maximize"));
+    QTest::mouseClick(key, Qt::LeftButton);
+    QCOMPARE(key->toolTip(), QString("Restore"));
+    QTest::mouseClick(key, Qt::LeftButton);
+    QCOMPARE(key->accessibleName(), QString("Maximize"));
 }
 
 ORVA_TEST(TestMainWindow)

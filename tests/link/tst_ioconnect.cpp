@@ -32,6 +32,7 @@ private slots:
     void setTimeSuccessIsReported();
     void qualityRequestIsOnlyLogged();
     void dormantReplayResultOnlyStopsTheTimer();
+    void failedSearchIsReported();
     void unlistedNumberGoesToTheBaseClass();
 
 private:
@@ -250,6 +251,16 @@ void TestIoConnect::dormantReplayResultOnlyStopsTheTimer()
     deliver(new ProgressEvent_playReplayIo(channel(), -1));
     QVERIFY(!channel()->ioTimer()->isActive());
     QVERIFY(all.names.isEmpty());
+}
+
+void TestIoConnect::failedSearchIsReported()
+{
+    QSignalSpy failures(IoConnect::instance(), &IoConnect::startLANSearchFailMsg);
+    deliver(new ProgressEvent_LanSearchStart(-17));
+    deliver(new ProgressEvent_LanSearch(-8, nullptr));
+    QCOMPARE(failures.size(), 2);
+    QCOMPARE(failures.at(0), QList<QVariant>({-17, ErrorMsg::p2pError(-17)}));
+    QCOMPARE(failures.at(1), QList<QVariant>({-8, ErrorMsg::p2pError(-8)}));
 }
 
 void TestIoConnect::unlistedNumberGoesToTheBaseClass()
