@@ -4,6 +4,7 @@
 #include "testmain.h"
 
 #include <QPointer>
+#include <QSemaphore>
 #include <QSignalSpy>
 #include <QTest>
 #include <QThread>
@@ -34,6 +35,7 @@ private slots:
     void deviceGoesWithItsDroppedLastEvent();
     void retireInsideASlotLeavesTheChannelUsable();
     void retireInsideTheHandlerLeavesTheChannelUsable();
+    void taskStartedAfterTheRetirementKeepsTheDevice();
     void resultsArriveOnTheMainThreadInPostingOrder();
     void unlistedNumberGoesToTheBaseClass();
     void otherNumbersOfSystemInfoGoToTheBaseClass();
@@ -329,6 +331,31 @@ void TestTasks::retireInsideASlotLeavesTheChannelUsable()
     device->channel(0)->ioTimer()->start(0);
     QTRY_VERIFY(!alive);
     QCOMPARE(seen, QList<int>({0, 1}));
+}
+
+// The second slot of the signal does not know what the first has done.
+void TestTasks::taskStartedAfterTheRetirementKeepsTheDevice()
+{
+    Receiver receiver;
+    Device* device = newDevice();
+    const QPointer<QTimer> alive = pulseOf(device);
+    QSemaphore gate;
+    const auto timeout = qOverload<Channel*>(&ChannelSaveTimeout::timeout);
+    connect(device->channel(0)->ioTimer(), timeout, this,
+        [](Channel* channel) { channel->device()->retire(); });
+    connect(device->channel(0)->ioTimer(), timeout, this, [&](Channel* channel) {
+        runTask(channel, [&receiver, &gate, channel] {
+            gate.acquire();
+            postResult(&receiver, new ProgressEvent_StartStream(channel, channel->number()));
+        });
+    });
+    device->channel(0)->ioTimer()->start(0);
+    QTRY_VERIFY(!device->channel(0)->ioTimer()->isActive());
+    QCoreApplication::processEvents(); // the retirement's own event
+    QVERIFY(alive);
+    gate.release();
+    QTRY_COMPARE(receiver.results.size(), 1);
+    QTRY_VERIFY(!alive);
 }
 
 void TestTasks::retireInsideTheHandlerLeavesTheChannelUsable()

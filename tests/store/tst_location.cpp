@@ -36,6 +36,7 @@ private slots:
     void setConfigPathToADamagedFileLeavesIt();
     void setConfigPathFromADamagedFileLeavesIt();
     void setConfigPathToItsOwnFolderKeepsTheSettings();
+    void setConfigPathTwiceKeepsTheMovedSettings();
 
 private:
     Location location_;
@@ -273,6 +274,19 @@ void TestLocation::setConfigPathToItsOwnFolderKeepsTheSettings()
     QCOMPARE(location_.getTimeLength(), 5);
     QCOMPARE(location_.getScale(), 1);
     QCOMPARE(LocalStore::instance()->loadDevices().size(), 1);
+}
+
+// Two presses of the button: the second finds nothing left to move.
+void TestLocation::setConfigPathTwiceKeepsTheMovedSettings()
+{
+    LocalStore::instance()->saveDevice(yard);
+    for (int press = 0; press < 2; ++press) {
+        QString folder = folder_->path();
+        QCOMPARE(location_.setConfigPath(folder), 0);
+        QCOMPARE(folder, folder_->filePath("ORVA.ini"));
+    }
+    QCOMPARE(storedText(folder_->filePath("ORVA.ini"), "device/size"), QString("1"));
+    QCOMPARE(unscramble(storedText(folder_->filePath("ORVA.ini"), "device/1/uid")), yard.uid);
 }
 
 ORVA_TEST(TestLocation)
