@@ -96,7 +96,7 @@ QString readText(const QSettings& file, const QString& key, Stored<Record>& stor
 {
     const QVariant value = file.value(key, QString());
     const QString text = value.toString();
-    const QString clear = unscramble(text);
+    QString clear = unscramble(text);
     // A text with commas is a list to QSettings, and no string at all.
     const bool empty = text.isEmpty() && value.type() == QVariant::String;
     if (!empty && (!isScrambled(text) || !isAscii(clear)))

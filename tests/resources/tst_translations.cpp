@@ -108,10 +108,10 @@ QStringList keysOfTheSources()
     static const QStringList keys = [] {
         const QTemporaryDir folder;
         const QString path = folder.filePath(QStringLiteral("now.ts"));
+        const QString source = QStringLiteral(ORVA_SOURCE_DIR);
         QProcess lupdate;
         lupdate.start(QStringLiteral(ORVA_LUPDATE),
-            {"-silent", "-locations", "none", ORVA_SOURCE_DIR "/src", ORVA_SOURCE_DIR "/forms",
-                "-ts", path});
+            {"-silent", "-locations", "none", source + "/src", source + "/forms", "-ts", path});
         lupdate.waitForFinished(120000);
         return keysOf(textsOf(path));
     }();
