@@ -36,30 +36,30 @@ public:
     static void collect(int state, int result, void* userData)
     {
         auto* self = static_cast<Reports*>(userData);
-        const std::lock_guard lock(self->m_mutex);
-        self->m_reports.push_back({state, result, std::this_thread::get_id()});
-        self->m_changed.notify_all();
+        const std::lock_guard lock(self->mutex_);
+        self->reports_.push_back({state, result, std::this_thread::get_id()});
+        self->changed_.notify_all();
     }
 
     bool wait(std::size_t count, std::chrono::milliseconds patience = linkPatience)
     {
-        std::unique_lock lock(m_mutex);
-        return m_changed.wait_for(
-            lock, patience, [this, count] { return m_reports.size() >= count; });
+        std::unique_lock lock(mutex_);
+        return changed_.wait_for(
+            lock, patience, [this, count] { return reports_.size() >= count; });
     }
 
     std::vector<Report> all()
     {
-        const std::lock_guard lock(m_mutex);
-        return m_reports;
+        const std::lock_guard lock(mutex_);
+        return reports_;
     }
 
 private:
     Q_DISABLE_COPY_MOVE(Reports)
 
-    std::mutex m_mutex;
-    std::condition_variable m_changed;
-    std::vector<Report> m_reports;
+    std::mutex mutex_;
+    std::condition_variable changed_;
+    std::vector<Report> reports_;
 };
 
 inline int connectTo(int sessionId, Reports& reports, const char* to = uid)

@@ -7,20 +7,20 @@
 #include <utility>
 
 ScriptedConnects::ScriptedConnects(ScriptedLayer& layer, std::condition_variable& changed)
-    : m_layer(layer)
-    , m_changed(changed)
+    : layer_(layer)
+    , changed_(changed)
 {
 }
 
 void ScriptedConnects::start(Lock& lock, Attempt attempt)
 {
-    if (m_thread == std::thread::id()) {
+    if (thread_ == std::thread::id()) {
         std::thread thread([this, mutex = lock.mutex()] { run(*mutex); });
-        m_thread = thread.get_id();
+        thread_ = thread.get_id();
         thread.detach();
     }
-    m_pending.push_back({std::move(attempt), m_nextSerial++, std::chrono::steady_clock::now()});
-    m_changed.notify_all();
+    pending_.push_back({std::move(attempt), nextSerial_++, std::chrono::steady_clock::now()});
+    changed_.notify_all();
 }
 
 bool ScriptedConnects::report(int sessionId, const ConnectStep& step)
@@ -28,7 +28,7 @@ bool ScriptedConnects::report(int sessionId, const ConnectStep& step)
     const auto owners = ownersOf(sessionId);
     for (Pending* pending : owners)
         pending->attempt.steps.push_back(step);
-    m_changed.notify_all();
+    changed_.notify_all();
     return !owners.empty();
 }
 
@@ -46,7 +46,7 @@ void ScriptedConnects::disown(int sessionId)
 
 void ScriptedConnects::stopAll(int result)
 {
-    for (Pending& pending : m_pending) {
+    for (Pending& pending : pending_) {
         pending.attempt.ownsSession = false;
         replaceSteps(pending, ConnectStep::failed(result));
     }
@@ -54,25 +54,25 @@ void ScriptedConnects::stopAll(int result)
 
 void ScriptedConnects::drain(Lock& lock)
 {
-    if (std::this_thread::get_id() == m_thread) {
-        for (Entry entry = earliest(); entry != m_pending.end(); entry = earliest())
+    if (std::this_thread::get_id() == thread_) {
+        for (Entry entry = earliest(); entry != pending_.end(); entry = earliest())
             makeReport(lock, entry);
         return;
     }
-    m_changed.wait(lock, [this, serial = m_nextSerial] { return drained(serial); });
+    changed_.wait(lock, [this, serial = nextSerial_] { return drained(serial); });
 }
 
 bool ScriptedConnects::drained(int serial) const
 {
-    if (reporting() && m_reportedSerial < serial)
+    if (reporting() && reportedSerial_ < serial)
         return false;
-    return std::none_of(m_pending.begin(), m_pending.end(),
+    return std::none_of(pending_.begin(), pending_.end(),
         [serial](const Pending& pending) { return pending.serial < serial; });
 }
 
 void ScriptedConnects::dropAll()
 {
-    m_pending.clear();
+    pending_.clear();
 }
 
 void ScriptedConnects::run(std::mutex& mutex)
@@ -80,10 +80,10 @@ void ScriptedConnects::run(std::mutex& mutex)
     Lock lock(mutex);
     for (;;) {
         const Entry entry = earliest();
-        if (entry == m_pending.end())
-            m_changed.wait(lock);
+        if (entry == pending_.end())
+            changed_.wait(lock);
         else if (const auto due = entry->due(); due > std::chrono::steady_clock::now())
-            m_changed.wait_until(lock, due);
+            changed_.wait_until(lock, due);
         else
             makeReport(lock, entry);
     }
@@ -94,8 +94,8 @@ ScriptedConnects::Entry ScriptedConnects::earliest()
     const auto sooner = [](const Pending& one, const Pending& other) {
         return one.ready() && (!other.ready() || one.due() < other.due());
     };
-    const Entry entry = std::min_element(m_pending.begin(), m_pending.end(), sooner);
-    return entry != m_pending.end() && entry->ready() ? entry : m_pending.end();
+    const Entry entry = std::min_element(pending_.begin(), pending_.end(), sooner);
+    return entry != pending_.end() && entry->ready() ? entry : pending_.end();
 }
 
 void ScriptedConnects::makeReport(Lock& lock, Entry entry)
@@ -108,19 +108,19 @@ void ScriptedConnects::makeReport(Lock& lock, Entry entry)
     entry->lastReport = std::chrono::steady_clock::now();
     if (step.isFinal()) {
         settle(attempt, step.state, result);
-        m_pending.erase(entry);
+        pending_.erase(entry);
     }
 
-    const int outerSerial = std::exchange(m_reportedSerial, serial);
-    ++m_depth;
+    const int outerSerial = std::exchange(reportedSerial_, serial);
+    ++depth_;
     {
         const InsideLayer inside;
         const Unlocked unlocked(lock);
         attempt.callback(step.state, result, attempt.userData);
     }
-    --m_depth;
-    m_reportedSerial = outerSerial;
-    m_changed.notify_all();
+    --depth_;
+    reportedSerial_ = outerSerial;
+    changed_.notify_all();
 }
 
 void ScriptedConnects::settle(const Attempt& attempt, int state, int result)
@@ -128,15 +128,15 @@ void ScriptedConnects::settle(const Attempt& attempt, int state, int result)
     if (!attempt.ownsSession)
         return;
     if (state == 2 && result >= 0)
-        m_layer.sessions.insert_or_assign(attempt.sessionId, ScriptedLayer::Session::Connected);
+        layer_.sessions.insert_or_assign(attempt.sessionId, ScriptedLayer::Session::Connected);
     else
-        m_layer.sessions.erase(attempt.sessionId);
+        layer_.sessions.erase(attempt.sessionId);
 }
 
 std::list<ScriptedConnects::Pending*> ScriptedConnects::ownersOf(int sessionId)
 {
     std::list<Pending*> owners;
-    for (Pending& pending : m_pending) {
+    for (Pending& pending : pending_) {
         if (pending.attempt.ownsSession && pending.attempt.sessionId == sessionId)
             owners.push_back(&pending);
     }
@@ -146,5 +146,5 @@ std::list<ScriptedConnects::Pending*> ScriptedConnects::ownersOf(int sessionId)
 void ScriptedConnects::replaceSteps(Pending& pending, const ConnectStep& step)
 {
     pending.attempt.steps.assign(1, step);
-    m_changed.notify_all();
+    changed_.notify_all();
 }

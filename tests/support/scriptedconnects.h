@@ -37,7 +37,7 @@ public:
     void drain(Lock& lock);
 
     void dropAll(); // no further reports of the connects started so far
-    bool reporting() const { return m_depth > 0; }
+    bool reporting() const { return depth_ > 0; }
 
 private:
     Q_DISABLE_COPY_MOVE(ScriptedConnects)
@@ -61,11 +61,11 @@ private:
     std::list<Pending*> ownersOf(int sessionId);
     void replaceSteps(Pending& pending, const ConnectStep& step);
 
-    ScriptedLayer& m_layer;
-    std::condition_variable& m_changed;
-    std::list<Pending> m_pending;
-    std::thread::id m_thread; // that of nobody before the first connect
-    int m_nextSerial = 0;
-    int m_reportedSerial = 0; // of the report under way
-    int m_depth = 0; // reports under way; above 1 only by drain() inside one
+    ScriptedLayer& layer_;
+    std::condition_variable& changed_;
+    std::list<Pending> pending_;
+    std::thread::id thread_; // that of nobody before the first connect
+    int nextSerial_ = 0;
+    int reportedSerial_ = 0; // of the report under way
+    int depth_ = 0; // reports under way; above 1 only by drain() inside one
 };

@@ -50,15 +50,15 @@ bool InsideLayer::here()
 CallTurn::CallTurn(Lock held, LinkCall& record)
     : call(record)
     , lock(std::move(held))
-    , layer(ScriptedEngine::instance().m_layer)
-    , connects(ScriptedEngine::instance().m_connects)
+    , layer(ScriptedEngine::instance().layer_)
+    , connects(ScriptedEngine::instance().connects_)
 {
 }
 
 std::optional<int> CallTurn::waitUntil(const std::function<bool()>& done,
     std::optional<std::chrono::steady_clock::time_point> deadline)
 {
-    auto& changed = ScriptedEngine::instance().m_changed;
+    auto& changed = ScriptedEngine::instance().changed_;
     const auto over = [this, &done] { return ended.has_value() || done(); };
     if (deadline)
         changed.wait_until(lock, *deadline, over);
@@ -74,7 +74,7 @@ ScriptedEngine& ScriptedEngine::instance()
 }
 
 ScriptedEngine::ScriptedEngine()
-    : m_connects(m_layer, m_changed)
+    : connects_(layer_, changed_)
 {
 }
 
@@ -84,8 +84,8 @@ int ScriptedEngine::run(LinkFn function, std::vector<LinkArgument> arguments, co
     enter(held);
     const InsideLayer inside;
     CallTurn turn(std::move(held), note(function, std::move(arguments)));
-    m_turns.push_back(&turn);
-    m_changed.notify_all();
+    turns_.push_back(&turn);
+    changed_.notify_all();
 
     turn.rule = takeRule(turn.call);
     const int result = resultOf(turn, body);
@@ -98,14 +98,14 @@ int ScriptedEngine::run(LinkFn function, std::vector<LinkArgument> arguments, co
 void ScriptedEngine::enter(Lock& lock)
 {
     if (!InsideLayer::here())
-        m_changed.wait(lock, [this] { return !m_resetting; });
+        changed_.wait(lock, [this] { return !resetting_; });
 }
 
 LinkCall& ScriptedEngine::note(LinkFn function, std::vector<LinkArgument> arguments)
 {
-    LinkCall& call = m_calls.emplace_back();
+    LinkCall& call = calls_.emplace_back();
     call.function = function;
-    call.sequence = static_cast<int>(m_calls.size());
+    call.sequence = static_cast<int>(calls_.size());
     call.thread = std::this_thread::get_id();
     call.start = std::chrono::steady_clock::now();
     call.arguments = std::move(arguments);
@@ -115,16 +115,16 @@ LinkCall& ScriptedEngine::note(LinkFn function, std::vector<LinkArgument> argume
 // One-time rules come first, oldest first; of the lasting ones the newest holds.
 std::shared_ptr<const LinkRule> ScriptedEngine::takeRule(const LinkCall& call)
 {
-    const auto once = std::find_if(m_rules.begin(), m_rules.end(),
+    const auto once = std::find_if(rules_.begin(), rules_.end(),
         [&call](const auto& rule) { return rule->once && rule->appliesTo(call); });
-    if (once != m_rules.end()) {
+    if (once != rules_.end()) {
         auto rule = *once;
-        m_rules.erase(once);
+        rules_.erase(once);
         return rule;
     }
-    const auto lasting = std::find_if(m_rules.rbegin(), m_rules.rend(),
+    const auto lasting = std::find_if(rules_.rbegin(), rules_.rend(),
         [&call](const auto& rule) { return !rule->once && rule->appliesTo(call); });
-    return lasting == m_rules.rend() ? nullptr : *lasting;
+    return lasting == rules_.rend() ? nullptr : *lasting;
 }
 
 int ScriptedEngine::resultOf(CallTurn& turn, const CallBody& body)
@@ -139,7 +139,7 @@ int ScriptedEngine::resultOf(CallTurn& turn, const CallBody& body)
             body.adopt(turn, *result);
         return *result;
     }
-    return isUp(m_layer, turn.call.function) ? body.own(turn) : notInitialized(turn.call.function);
+    return isUp(layer_, turn.call.function) ? body.own(turn) : notInitialized(turn.call.function);
 }
 
 std::optional<int> ScriptedEngine::pause(CallTurn& turn)
@@ -162,10 +162,10 @@ std::optional<int> ScriptedEngine::passGate(CallTurn& turn, LinkGate::State& gat
 {
     ++gate.reached;
     ++gate.waiting;
-    m_changed.notify_all();
+    changed_.notify_all();
     const auto result = turn.waitUntil([&gate] { return gate.open; });
     --gate.waiting;
-    m_changed.notify_all();
+    changed_.notify_all();
     return result;
 }
 
@@ -185,17 +185,17 @@ void ScriptedEngine::finish(CallTurn& turn, std::optional<int> result)
     turn.call.returned = true;
     turn.call.duration = std::chrono::steady_clock::now() - turn.call.start;
     turn.call.result = result;
-    m_turns.erase(std::find(m_turns.begin(), m_turns.end(), &turn));
-    m_changed.notify_all();
+    turns_.erase(std::find(turns_.begin(), turns_.end(), &turn));
+    changed_.notify_all();
 }
 
 void ScriptedEngine::end(const std::function<bool(const LinkCall&)>& which, int result)
 {
-    for (CallTurn* turn : m_turns) {
+    for (CallTurn* turn : turns_) {
         if (!turn->ended && which(turn->call))
             turn->ended = result;
     }
-    m_changed.notify_all();
+    changed_.notify_all();
 }
 
 void ScriptedEngine::endChannel(int avIndex, int result)
@@ -207,7 +207,7 @@ void ScriptedEngine::endChannel(int avIndex, int result)
 
 void ScriptedEngine::endSession(int sessionId, int result)
 {
-    for (const int avIndex : m_layer.channelsOf(sessionId))
+    for (const int avIndex : layer_.channelsOf(sessionId))
         endChannel(avIndex, result);
     const auto startsChannel = [sessionId](const LinkCall& call) {
         return isChannelCall(call.function) && call.has("sessionId")
@@ -226,7 +226,7 @@ void ScriptedEngine::change(const std::function<void()>& change)
 {
     const Lock held = lock();
     change();
-    m_changed.notify_all();
+    changed_.notify_all();
 }
 
 bool ScriptedEngine::waitFor(
@@ -234,43 +234,43 @@ bool ScriptedEngine::waitFor(
 {
     Lock held = lock();
     const auto deadline = std::chrono::steady_clock::now() + patience;
-    return m_changed.wait_until(held, deadline, condition);
+    return changed_.wait_until(held, deadline, condition);
 }
 
 void ScriptedEngine::addRule(LinkRule rule)
 {
     const Lock held = lock();
-    m_rules.push_back(std::make_shared<const LinkRule>(std::move(rule)));
+    rules_.push_back(std::make_shared<const LinkRule>(std::move(rule)));
 }
 
 void ScriptedEngine::reset()
 {
-    decltype(m_rules) rules; // what the test's functions own goes after the lock has gone
+    decltype(rules_) rules; // what the test's functions own goes after the lock has gone
     if (InsideLayer::here())
         qFatal("reset() is called from inside a call or a connect callback");
     Lock held = lock();
-    m_resetting = true;
-    rules.swap(m_rules);
-    m_layer = {};
-    m_connects.dropAll();
+    resetting_ = true;
+    rules.swap(rules_);
+    layer_ = {};
+    connects_.dropAll();
     endAll();
     awaitQuiet(held);
-    m_connects.dropAll();
-    m_layer = {};
-    m_calls.clear();
-    m_resetting = false;
-    m_changed.notify_all();
+    connects_.dropAll();
+    layer_ = {};
+    calls_.clear();
+    resetting_ = false;
+    changed_.notify_all();
 }
 
 // A call or report that does not come back is stuck in the test's own function; going on would
 // let it run into the next test.
 void ScriptedEngine::awaitQuiet(Lock& lock)
 {
-    const auto quiet = [this] { return m_turns.empty() && !m_connects.reporting(); };
+    const auto quiet = [this] { return turns_.empty() && !connects_.reporting(); };
     const auto deadline = std::chrono::steady_clock::now() + resetPatience;
-    if (m_changed.wait_until(lock, deadline, quiet))
+    if (changed_.wait_until(lock, deadline, quiet))
         return;
-    const bool inCall = !m_turns.empty();
+    const bool inCall = !turns_.empty();
     qFatal("reset() waits for %s, which does not return",
-        inCall ? functionName(m_turns.front()->call.function) : "a connect callback");
+        inCall ? functionName(turns_.front()->call.function) : "a connect callback");
 }

@@ -8,16 +8,16 @@ class Unlocked final
 {
 public:
     explicit Unlocked(std::unique_lock<std::mutex>& lock)
-        : m_lock(lock)
+        : lock_(lock)
     {
-        m_lock.unlock();
+        lock_.unlock();
     }
-    ~Unlocked() { m_lock.lock(); }
+    ~Unlocked() { lock_.lock(); }
 
 private:
     Q_DISABLE_COPY_MOVE(Unlocked)
 
-    std::unique_lock<std::mutex>& m_lock;
+    std::unique_lock<std::mutex>& lock_;
 };
 
 // Marks that this thread is inside a call or report for a scope: calls from there are let in while
@@ -83,16 +83,16 @@ public:
     void endAll();
 
     // For the test's side.
-    Lock lock() { return Lock(m_mutex); }
+    Lock lock() { return Lock(mutex_); }
     void change(const std::function<void()>& change); // with the mutex held; wakes who waits
     bool waitFor(const std::function<bool()>& condition, std::chrono::milliseconds patience);
     void addRule(LinkRule rule);
     void reset();
 
     // The caller holds lock().
-    const std::deque<LinkCall>& calls() const { return m_calls; }
-    ScriptedLayer& layer() { return m_layer; }
-    ScriptedConnects& connects() { return m_connects; }
+    const std::deque<LinkCall>& calls() const { return calls_; }
+    ScriptedLayer& layer() { return layer_; }
+    ScriptedConnects& connects() { return connects_; }
 
 private:
     friend class CallTurn;
@@ -109,13 +109,13 @@ private:
     void finish(CallTurn& turn, std::optional<int> result);
     void awaitQuiet(Lock& lock);
 
-    std::mutex m_mutex;
-    std::condition_variable m_changed;
-    // All below is guarded by m_mutex.
-    std::deque<LinkCall> m_calls; // a deque: calls in flight keep references to their records
-    std::vector<CallTurn*> m_turns;
-    bool m_resetting = false; // calls of threads that come from outside wait meanwhile
-    std::vector<std::shared_ptr<const LinkRule>> m_rules; // in the order of the script
-    ScriptedLayer m_layer;
-    ScriptedConnects m_connects;
+    std::mutex mutex_;
+    std::condition_variable changed_;
+    // All below is guarded by mutex_.
+    std::deque<LinkCall> calls_; // a deque: calls in flight keep references to their records
+    std::vector<CallTurn*> turns_;
+    bool resetting_ = false; // calls of threads that come from outside wait meanwhile
+    std::vector<std::shared_ptr<const LinkRule>> rules_; // in the order of the script
+    ScriptedLayer layer_;
+    ScriptedConnects connects_;
 };

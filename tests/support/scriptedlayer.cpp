@@ -70,7 +70,7 @@ void ScriptedLayer::openChannelAt(int avIndex, const Channel& channel)
 void ScriptedLayer::closeChannel(int avIndex)
 {
     if (channels.erase(avIndex) != 0)
-        m_queues.erase(avIndex);
+        queues_.erase(avIndex);
 }
 
 int ScriptedLayer::channelState(int avIndex) const
@@ -112,14 +112,14 @@ void ScriptedLayer::takeDown()
 
 const ScriptedLayer::Message* ScriptedLayer::nextMessage(int avIndex) const
 {
-    const auto queues = m_queues.find(avIndex);
-    if (queues == m_queues.end() || queues->second.messages.empty())
+    const auto queues = queues_.find(avIndex);
+    if (queues == queues_.end() || queues->second.messages.empty())
         return nullptr;
     return &queues->second.messages.front();
 }
 
 ScriptedLayer::Queues ScriptedLayer::waiting(int avIndex) const
 {
-    const auto queues = m_queues.find(avIndex);
-    return queues == m_queues.end() ? Queues{} : queues->second;
+    const auto queues = queues_.find(avIndex);
+    return queues == queues_.end() ? Queues{} : queues->second;
 }

@@ -60,7 +60,7 @@ public:
 
     // For receiving: null or empty when nothing waits, also when the index has no queues.
     const Message* nextMessage(int avIndex) const;
-    Queues& queues(int avIndex) { return m_queues[avIndex]; }
+    Queues& queues(int avIndex) { return queues_[avIndex]; }
     Queues waiting(int avIndex) const;
 
     bool sessionsUp = false;
@@ -76,5 +76,5 @@ public:
     QByteArray speakerPassword;
 
 private:
-    std::map<int, Queues> m_queues; // may be filled before the index opens; dropped as it closes
+    std::map<int, Queues> queues_; // may be filled before the index opens; dropped as it closes
 };

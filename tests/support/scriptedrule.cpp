@@ -5,31 +5,31 @@
 #include "scriptedlink.h"
 
 LinkGate::LinkGate(std::shared_ptr<State> state)
-    : m_state(std::move(state))
+    : state_(std::move(state))
 {
 }
 
 LinkGate::~LinkGate()
 {
-    if (m_state)
+    if (state_)
         release();
 }
 
 bool LinkGate::waitUntilReached(int calls, std::chrono::milliseconds patience) const
 {
     return ScriptedEngine::instance().waitFor(
-        [this, calls] { return m_state->reached >= calls; }, patience);
+        [this, calls] { return state_->reached >= calls; }, patience);
 }
 
 int LinkGate::waiting() const
 {
     const auto lock = ScriptedEngine::instance().lock();
-    return m_state->waiting;
+    return state_->waiting;
 }
 
 void LinkGate::release()
 {
-    ScriptedEngine::instance().change([this] { m_state->open = true; });
+    ScriptedEngine::instance().change([this] { state_->open = true; });
 }
 
 bool LinkRule::appliesTo(const LinkCall& call) const
@@ -38,13 +38,13 @@ bool LinkRule::appliesTo(const LinkCall& call) const
 }
 
 LinkRuleBuilder::LinkRuleBuilder(LinkRule rule)
-    : m_rule(std::move(rule))
+    : rule_(std::move(rule))
 {
 }
 
 LinkRuleBuilder::~LinkRuleBuilder()
 {
-    ScriptedEngine::instance().addRule(std::move(m_rule));
+    ScriptedEngine::instance().addRule(std::move(rule_));
 }
 
 LinkRuleBuilder& LinkRuleBuilder::answers(int result)
@@ -54,31 +54,31 @@ LinkRuleBuilder& LinkRuleBuilder::answers(int result)
 
 LinkRuleBuilder& LinkRuleBuilder::answers(std::function<int(const LinkCall&)> answer)
 {
-    m_rule.answer = std::move(answer);
+    rule_.answer = std::move(answer);
     return *this;
 }
 
 LinkRuleBuilder& LinkRuleBuilder::after(std::chrono::milliseconds delay)
 {
-    m_rule.delay = delay;
+    rule_.delay = delay;
     return *this;
 }
 
 LinkRuleBuilder& LinkRuleBuilder::hangs()
 {
-    m_rule.hangs = true;
+    rule_.hangs = true;
     return *this;
 }
 
 LinkGate LinkRuleBuilder::holds()
 {
-    m_rule.gate = std::make_shared<LinkGate::State>();
-    return LinkGate(m_rule.gate);
+    rule_.gate = std::make_shared<LinkGate::State>();
+    return LinkGate(rule_.gate);
 }
 
 LinkRuleBuilder& LinkRuleBuilder::then(std::function<void(const LinkCall&)> followUp)
 {
-    m_rule.followUps.push_back(std::move(followUp));
+    rule_.followUps.push_back(std::move(followUp));
     return *this;
 }
 
@@ -92,6 +92,6 @@ LinkRuleBuilder& LinkRuleBuilder::replies(unsigned type, const QByteArray& paylo
 
 LinkRuleBuilder& LinkRuleBuilder::reports(std::vector<ConnectStep> steps)
 {
-    m_rule.reports = std::move(steps);
+    rule_.reports = std::move(steps);
     return *this;
 }

@@ -51,7 +51,7 @@ public:
 private:
     Q_DISABLE_COPY(LinkGate)
 
-    std::shared_ptr<State> m_state;
+    std::shared_ptr<State> state_;
 };
 
 // What the script says about some calls of one function. Immutable once it is in the script.
@@ -102,5 +102,5 @@ public:
 private:
     Q_DISABLE_COPY_MOVE(LinkRuleBuilder)
 
-    LinkRule m_rule;
+    LinkRule rule_;
 };

@@ -33,16 +33,16 @@ class Gif
 {
 public:
     Gif()
-        : m_file(EGifOpen(&m_bytes, &append, &m_error))
+        : file_(EGifOpen(&bytes_, &append, &error_))
     {
-        if (!m_file)
-            fail(m_error);
-        EGifSetGifVersion(m_file, true);
+        if (!file_)
+            fail(error_);
+        EGifSetGifVersion(file_, true);
     }
     ~Gif()
     {
-        if (m_file)
-            EGifCloseFile(m_file, nullptr);
+        if (file_)
+            EGifCloseFile(file_, nullptr);
     }
     Q_DISABLE_COPY_MOVE(Gif)
 
@@ -55,12 +55,12 @@ private:
     void check(int result) const
     {
         if (result != GIF_OK)
-            fail(m_file->Error);
+            fail(file_->Error);
     }
 
-    QByteArray m_bytes;
-    int m_error = 0;
-    GifFileType* m_file;
+    QByteArray bytes_;
+    int error_ = 0;
+    GifFileType* file_;
 };
 
 void Gif::writeHeader(const QSize& size, const Palette& palette)
@@ -73,16 +73,16 @@ void Gif::writeHeader(const QSize& size, const Palette& palette)
         *entry++ = {static_cast<GifByteType>(qRed(colour)),
             static_cast<GifByteType>(qGreen(colour)), static_cast<GifByteType>(qBlue(colour))};
     check(
-        EGifPutScreenDesc(m_file, size.width(), size.height(), 8, Palette::transparent, map.get()));
+        EGifPutScreenDesc(file_, size.width(), size.height(), 8, Palette::transparent, map.get()));
 }
 
 void Gif::writeEndlessLoop()
 {
     static constexpr GifByteType endless[] = {1, 0, 0};
-    check(EGifPutExtensionLeader(m_file, APPLICATION_EXT_FUNC_CODE));
-    check(EGifPutExtensionBlock(m_file, 11, "NETSCAPE2.0"));
-    check(EGifPutExtensionBlock(m_file, sizeof endless, endless));
-    check(EGifPutExtensionTrailer(m_file));
+    check(EGifPutExtensionLeader(file_, APPLICATION_EXT_FUNC_CODE));
+    check(EGifPutExtensionBlock(file_, 11, "NETSCAPE2.0"));
+    check(EGifPutExtensionBlock(file_, sizeof endless, endless));
+    check(EGifPutExtensionTrailer(file_));
 }
 
 void Gif::writeFrame(const QImage& image, const Palette& palette, int frameMs)
@@ -91,25 +91,25 @@ void Gif::writeFrame(const QImage& image, const Palette& palette, int frameMs)
         DISPOSE_BACKGROUND, false, frameMs / 10, Palette::transparent};
     GifByteType bytes[4];
     EGifGCBToExtension(&control, bytes);
-    check(EGifPutExtension(m_file, GRAPHICS_EXT_FUNC_CODE, sizeof bytes, bytes));
-    check(EGifPutImageDesc(m_file, 0, 0, image.width(), image.height(), false, nullptr));
+    check(EGifPutExtension(file_, GRAPHICS_EXT_FUNC_CODE, sizeof bytes, bytes));
+    check(EGifPutImageDesc(file_, 0, 0, image.width(), image.height(), false, nullptr));
     std::vector<GifPixelType> line(static_cast<std::size_t>(image.width()));
     for (int y = 0; y < image.height(); ++y) {
         for (int x = 0; x < image.width(); ++x)
             line[static_cast<std::size_t>(x)] =
                 static_cast<GifPixelType>(palette.index(image.pixel(x, y)));
-        check(EGifPutLine(m_file, line.data(), image.width()));
+        check(EGifPutLine(file_, line.data(), image.width()));
     }
 }
 
 QByteArray Gif::close()
 {
     int error = 0;
-    GifFileType* file = m_file;
-    m_file = nullptr;
+    GifFileType* file = file_;
+    file_ = nullptr;
     if (EGifCloseFile(file, &error) != GIF_OK)
         fail(error);
-    return m_bytes;
+    return bytes_;
 }
 
 } // namespace

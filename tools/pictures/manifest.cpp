@@ -87,25 +87,25 @@ class Reader
 {
 public:
     Reader(const QString& file, const Tokens& tokens)
-        : m_root(Node::read(file))
-        , m_tokens(tokens)
-        , m_folder(QFileInfo(file).path())
+        : root_(Node::read(file))
+        , tokens_(tokens)
+        , folder_(QFileInfo(file).path())
     {
-        m_manifest.file = file;
+        manifest_.file = file;
     }
 
     Manifest read()
     {
-        m_root.allow({"places", "faces", "pictures", "animations"});
-        readPlaces(m_root.at("places"));
-        readFaces(m_root.at("faces"));
-        for (const Node& group : m_root.at("pictures").items())
+        root_.allow({"places", "faces", "pictures", "animations"});
+        readPlaces(root_.at("places"));
+        readFaces(root_.at("faces"));
+        for (const Node& group : root_.at("pictures").items())
             readGroup(group);
-        if (m_root.has("animations")) {
-            for (const Node& node : m_root.at("animations").items())
+        if (root_.has("animations")) {
+            for (const Node& node : root_.at("animations").items())
                 readAnimation(node);
         }
-        return std::move(m_manifest);
+        return std::move(manifest_);
     }
 
 private:
@@ -128,13 +128,13 @@ private:
     Place place(const Node& owner, const Node& node, const QString& file);
     QString svgPath(const QString& name) const;
 
-    Node m_root;
-    const Tokens& m_tokens;
-    QString m_folder;
-    QHash<QString, Place> m_places; // `file` is the folder only
-    QHash<QString, Face> m_faces;
-    QSet<QString> m_taken;
-    Manifest m_manifest;
+    Node root_;
+    const Tokens& tokens_;
+    QString folder_;
+    QHash<QString, Place> places_; // `file` is the folder only
+    QHash<QString, Face> faces_;
+    QSet<QString> taken_;
+    Manifest manifest_;
 };
 
 void Reader::readPlaces(const Node& node)
@@ -143,20 +143,20 @@ void Reader::readPlaces(const Node& node)
         const auto items = node.at(name).items();
         if (items.size() != 2 || !items[0].text().startsWith(QLatin1Char('/')))
             node.at(name).fail(QStringLiteral("expected [\"/prefix\", \"folder\"]"));
-        m_places.insert(name, {items[0].text(), items[1].text()});
+        places_.insert(name, {items[0].text(), items[1].text()});
     }
 }
 
 void Reader::readFaces(const Node& node)
 {
     for (const QString& name : node.keys())
-        m_faces.insert(name, readFace(node.at(name), m_tokens));
+        faces_.insert(name, readFace(node.at(name), tokens_));
 }
 
 Face Reader::face(const Node& name) const
 {
-    const auto found = m_faces.constFind(name.text());
-    if (found == m_faces.constEnd())
+    const auto found = faces_.constFind(name.text());
+    if (found == faces_.constEnd())
         name.fail(QStringLiteral("expected a name of \"faces\", not \"%1\"").arg(name.text()));
     return *found;
 }
@@ -214,7 +214,7 @@ void Reader::readGroup(const Node& group)
             picture.entry = QStringLiteral("%1 \"%2\"").arg(node.where(), name);
             picture.place = place(group, node, name + QLatin1String(".png"));
             picture.face = face;
-            m_manifest.pictures.push_back(picture);
+            manifest_.pictures.push_back(picture);
         }
     }
 }
@@ -232,20 +232,20 @@ void Reader::readAnimation(const Node& node)
     animation.frameMs = node.at("frame-ms").wholeAboveZero();
     if (animation.frameMs % 10 != 0)
         node.at("frame-ms").fail(QStringLiteral("expected a multiple of 10, the step of a GIF"));
-    m_manifest.animations.push_back(animation);
+    manifest_.animations.push_back(animation);
 }
 
 Place Reader::place(const Node& owner, const Node& node, const QString& file)
 {
     const Node at = owner.at("at");
-    const auto found = m_places.constFind(at.text());
-    if (found == m_places.constEnd())
+    const auto found = places_.constFind(at.text());
+    if (found == places_.constEnd())
         at.fail(QStringLiteral("expected a name of \"places\", not \"%1\"").arg(at.text()));
     Place place{found->prefix, found->file + QLatin1Char('/') + file};
     const QString whole = place.prefix + QLatin1Char('/') + place.file;
-    if (m_taken.contains(whole))
+    if (taken_.contains(whole))
         node.fail(QStringLiteral("the name \":%1\" is given twice").arg(whole));
-    m_taken.insert(whole);
+    taken_.insert(whole);
     return place;
 }
 
@@ -253,7 +253,7 @@ Place Reader::place(const Node& owner, const Node& node, const QString& file)
 QString Reader::svgPath(const QString& name) const
 {
     const QString folder = name.contains(QLatin1Char('/')) ? QString() : QStringLiteral("icons/");
-    return m_folder + QLatin1Char('/') + folder + name + QLatin1String(".svg");
+    return folder_ + QLatin1Char('/') + folder + name + QLatin1String(".svg");
 }
 
 } // namespace

@@ -29,9 +29,9 @@ QJsonDocument parse(const QString& file, const QByteArray& bytes)
 } // namespace
 
 Node::Node(QString file, QString where, QJsonValue value)
-    : m_file(std::move(file))
-    , m_where(std::move(where))
-    , m_value(std::move(value))
+    : file_(std::move(file))
+    , where_(std::move(where))
+    , value_(std::move(value))
 {
 }
 
@@ -45,55 +45,55 @@ Node Node::read(const QString& file)
 
 bool Node::has(const char* key) const
 {
-    return m_value.toObject().contains(QLatin1String(key));
+    return value_.toObject().contains(QLatin1String(key));
 }
 
 Node Node::at(const QString& key) const
 {
-    if (!m_value.isObject())
+    if (!value_.isObject())
         fail(QStringLiteral("expected an object"));
-    const QJsonObject object = m_value.toObject();
+    const QJsonObject object = value_.toObject();
     if (!object.contains(key))
         fail(QStringLiteral("expected the key \"%1\"").arg(key));
-    const QString where = m_where.isEmpty() ? key : m_where + QLatin1Char('.') + key;
-    return {m_file, where, object.value(key)};
+    const QString where = where_.isEmpty() ? key : where_ + QLatin1Char('.') + key;
+    return {file_, where, object.value(key)};
 }
 
 QStringList Node::keys() const
 {
-    if (!m_value.isObject())
+    if (!value_.isObject())
         fail(QStringLiteral("expected an object"));
-    return m_value.toObject().keys();
+    return value_.toObject().keys();
 }
 
 std::vector<Node> Node::items() const
 {
-    if (!m_value.isArray())
+    if (!value_.isArray())
         fail(QStringLiteral("expected an array"));
     std::vector<Node> nodes;
     int index = 0;
-    for (const QJsonValue item : m_value.toArray())
-        nodes.push_back({m_file, m_where + QStringLiteral("[%1]").arg(index++), item});
+    for (const QJsonValue item : value_.toArray())
+        nodes.push_back({file_, where_ + QStringLiteral("[%1]").arg(index++), item});
     return nodes;
 }
 
 QString Node::text() const
 {
-    if (!m_value.isString())
+    if (!value_.isString())
         fail(QStringLiteral("expected a text"));
-    return m_value.toString();
+    return value_.toString();
 }
 
 double Node::number() const
 {
-    if (!m_value.isDouble())
+    if (!value_.isDouble())
         fail(QStringLiteral("expected a number"));
-    return m_value.toDouble();
+    return value_.toDouble();
 }
 
 int Node::wholeAboveZero() const
 {
-    const double value = m_value.toDouble();
+    const double value = value_.toDouble();
     if (value < 1 || value > 10000 || std::floor(value) != value)
         fail(QStringLiteral("expected a whole number from 1 to 10000"));
     return static_cast<int>(value);
@@ -110,5 +110,5 @@ void Node::allow(std::initializer_list<const char*> allowed) const
 
 void Node::fail(const QString& expected) const
 {
-    throw Problem(m_file, m_where, expected);
+    throw Problem(file_, where_, expected);
 }

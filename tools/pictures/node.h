@@ -25,18 +25,18 @@ public:
     QString text() const;
     double number() const;
     int wholeAboveZero() const;
-    bool isArray() const { return m_value.isArray(); }
+    bool isArray() const { return value_.isArray(); }
 
     // Refuses any key but these: a misspelt key would otherwise be silently without effect.
     void allow(std::initializer_list<const char*> keys) const;
     [[noreturn]] void fail(const QString& expected) const;
-    QString where() const { return m_where; }
-    QString file() const { return m_file; }
+    QString where() const { return where_; }
+    QString file() const { return file_; }
 
 private:
     Node(QString file, QString where, QJsonValue value);
 
-    QString m_file;
-    QString m_where;
-    QJsonValue m_value;
+    QString file_;
+    QString where_;
+    QJsonValue value_;
 };

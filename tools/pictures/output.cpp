@@ -22,7 +22,7 @@ void writeFile(QXmlStreamWriter& xml, const QString& prefix, const QString& file
 } // namespace
 
 Output::Output(QString folder)
-    : m_folder(std::move(folder))
+    : folder_(std::move(folder))
 {
 }
 
@@ -40,7 +40,7 @@ void Output::addPng(const Place& place, const QImage& image)
 void Output::add(const Place& place, const QByteArray& bytes)
 {
     write(place.prefix + QLatin1Char('/') + place.file, bytes);
-    m_files[place.prefix].append(place.file);
+    files_[place.prefix].append(place.file);
 }
 
 void Output::finish() const
@@ -49,7 +49,7 @@ void Output::finish() const
     QXmlStreamWriter xml(&bytes);
     xml.setAutoFormatting(true);
     xml.writeStartElement(QStringLiteral("RCC"));
-    for (const auto& [prefix, files] : m_files) {
+    for (const auto& [prefix, files] : files_) {
         xml.writeStartElement(QStringLiteral("qresource"));
         xml.writeAttribute(QStringLiteral("prefix"), prefix);
         for (const QString& file : files)
@@ -62,7 +62,7 @@ void Output::finish() const
 
 void Output::write(const QString& file, const QByteArray& bytes) const
 {
-    const QString path = m_folder + file;
+    const QString path = folder_ + file;
     QDir().mkpath(QFileInfo(path).path());
     QSaveFile target(path);
     if (!target.open(QIODevice::WriteOnly) || target.write(bytes) != bytes.size()

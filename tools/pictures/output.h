@@ -24,6 +24,6 @@ public:
 private:
     void write(const QString& file, const QByteArray& bytes) const;
 
-    QString m_folder;
-    std::map<QString, QStringList> m_files; // by prefix
+    QString folder_;
+    std::map<QString, QStringList> files_; // by prefix
 };

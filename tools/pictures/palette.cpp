@@ -43,31 +43,31 @@ Palette::Palette(const std::vector<QImage>& frames)
 {
     const auto colours = sortByFrequency(countColours(frames));
     while (!fill(colours))
-        m_step *= 2;
+        step_ *= 2;
 }
 
 bool Palette::fill(const std::vector<QRgb>& byFrequency)
 {
-    m_colours = {qRgb(0, 0, 0)};
-    m_indices.clear();
+    colours_ = {qRgb(0, 0, 0)};
+    indices_.clear();
     for (const QRgb colour : byFrequency) {
-        if (m_indices.contains(similar(colour)))
+        if (indices_.contains(similar(colour)))
             continue;
-        if (m_colours.size() == 256)
+        if (colours_.size() == 256)
             return false;
-        m_indices.insert(similar(colour), static_cast<int>(m_colours.size()));
-        m_colours.push_back(colour);
+        indices_.insert(similar(colour), static_cast<int>(colours_.size()));
+        colours_.push_back(colour);
     }
     return true;
 }
 
 QRgb Palette::similar(QRgb colour) const
 {
-    const auto floor = [this](int value) { return value / m_step * m_step; };
+    const auto floor = [this](int value) { return value / step_ * step_; };
     return qRgb(floor(qRed(colour)), floor(qGreen(colour)), floor(qBlue(colour)));
 }
 
 int Palette::index(QRgb pixel) const
 {
-    return isTransparent(pixel) ? transparent : m_indices.value(similar(pixel), transparent);
+    return isTransparent(pixel) ? transparent : indices_.value(similar(pixel), transparent);
 }

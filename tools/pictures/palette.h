@@ -17,14 +17,14 @@ public:
     explicit Palette(const std::vector<QImage>& frames);
 
     // By index; that of `transparent` is black.
-    const std::vector<QRgb>& colours() const { return m_colours; }
+    const std::vector<QRgb>& colours() const { return colours_; }
     int index(QRgb pixel) const;
 
 private:
     bool fill(const std::vector<QRgb>& byFrequency);
     QRgb similar(QRgb colour) const;
 
-    int m_step = 1; // components that differ by less are similar
-    std::vector<QRgb> m_colours;
-    QHash<QRgb, int> m_indices;
+    int step_ = 1; // components that differ by less are similar
+    std::vector<QRgb> colours_;
+    QHash<QRgb, int> indices_;
 };

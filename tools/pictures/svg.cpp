@@ -15,19 +15,19 @@ class SvgReports
 {
 public:
     SvgReports()
-        : m_previous(qInstallMessageHandler(&SvgReports::take))
+        : previous_(qInstallMessageHandler(&SvgReports::take))
     {
-        reports = &m_reports;
+        reports = &reports_;
     }
     ~SvgReports()
     {
         reports = nullptr;
-        qInstallMessageHandler(m_previous);
+        qInstallMessageHandler(previous_);
     }
     Q_DISABLE_COPY_MOVE(SvgReports)
 
-    bool isEmpty() const { return m_reports.isEmpty(); }
-    QString first() const { return m_reports.first().simplified(); }
+    bool isEmpty() const { return reports_.isEmpty(); }
+    QString first() const { return reports_.first().simplified(); }
 
 private:
     static void take(QtMsgType, const QMessageLogContext&, const QString& text)
@@ -35,8 +35,8 @@ private:
         reports->append(text);
     }
 
-    QStringList m_reports;
-    QtMessageHandler m_previous;
+    QStringList reports_;
+    QtMessageHandler previous_;
 };
 
 // One SVG on its way to a renderer.
@@ -44,41 +44,41 @@ class Source
 {
 public:
     Source(const QString& path, const QString& entry)
-        : m_path(path)
-        , m_entry(entry)
+        : path_(path)
+        , entry_(entry)
     {
         QFile file(path);
         if (!file.open(QIODevice::ReadOnly))
             fail(QStringLiteral("cannot be read: ") + file.errorString());
-        m_bytes = file.readAll();
+        bytes_ = file.readAll();
         // The build machine may have no fonts at all.
-        if (m_bytes.contains("<text"))
+        if (bytes_.contains("<text"))
             fail(QStringLiteral("expected letters as paths, not as text"));
     }
 
     void setColour(const std::optional<QColor>& colour)
     {
-        const bool uses = m_bytes.contains("currentColor");
+        const bool uses = bytes_.contains("currentColor");
         if (uses && !colour)
             fail(QStringLiteral("uses currentColor, expected a face with a colour"));
         if (!uses && colour)
             fail(QStringLiteral("does not use currentColor, expected a face without a colour"));
         if (colour)
-            m_bytes.replace("currentColor", colour->name().toLatin1());
+            bytes_.replace("currentColor", colour->name().toLatin1());
     }
 
     void replace(const Recolour& recolour)
     {
-        if (!m_bytes.contains(recolour.from))
+        if (!bytes_.contains(recolour.from))
             fail(QStringLiteral("expected the colour %1 in it, to be replaced")
                      .arg(QString::fromLatin1(recolour.from)));
-        m_bytes.replace(recolour.from, recolour.to.name().toLatin1());
+        bytes_.replace(recolour.from, recolour.to.name().toLatin1());
     }
 
     std::unique_ptr<QSvgRenderer> renderer() const
     {
         const SvgReports heard;
-        auto renderer = std::make_unique<QSvgRenderer>(m_bytes);
+        auto renderer = std::make_unique<QSvgRenderer>(bytes_);
         if (!heard.isEmpty())
             fail(QStringLiteral("expected an SVG that Qt can draw: ") + heard.first());
         if (!renderer->isValid())
@@ -91,12 +91,12 @@ public:
 private:
     [[noreturn]] void fail(const QString& expected) const
     {
-        throw Problem(m_path, QStringLiteral("for ") + m_entry, expected);
+        throw Problem(path_, QStringLiteral("for ") + entry_, expected);
     }
 
-    QString m_path;
-    QString m_entry;
-    QByteArray m_bytes;
+    QString path_;
+    QString entry_;
+    QByteArray bytes_;
 };
 
 } // namespace

@@ -46,18 +46,18 @@ QColor parse(const Node& value)
 } // namespace
 
 Tokens::Tokens(const QString& file)
-    : m_file(file)
+    : file_(file)
 {
     const Node root = Node::read(file);
     for (const QString& name : root.keys())
-        m_colours.insert(name, parse(root.at(name)));
+        colours_.insert(name, parse(root.at(name)));
 }
 
 QColor Tokens::colour(const Node& name) const
 {
-    const auto found = m_colours.constFind(name.text());
-    if (found == m_colours.constEnd())
+    const auto found = colours_.constFind(name.text());
+    if (found == colours_.constEnd())
         name.fail(QStringLiteral("expected a colour token of %1, not \"%2\"")
-                      .arg(QFileInfo(m_file).fileName(), name.text()));
+                      .arg(QFileInfo(file_).fileName(), name.text()));
     return *found;
 }

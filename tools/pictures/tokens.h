@@ -19,6 +19,6 @@ public:
     QColor colour(const Node& name) const;
 
 private:
-    QString m_file;
-    QHash<QString, QColor> m_colours;
+    QString file_;
+    QHash<QString, QColor> colours_;
 };
