@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QFontDatabase>
 #include <QIcon>
+#include <QPalette>
 
 // Resources in a static library are linked in only where something names them; the macro must
 // stand outside any namespace.
@@ -41,6 +42,12 @@ void setFont()
 
 void setLook()
 {
+    // A style sheet of Qt 5 cannot name the colour of a placeholder, and gives it that of the text
+    // where it names one: so both colours of the input fields come from the palette.
+    QPalette palette = QApplication::palette();
+    palette.setColor(QPalette::Text, QColor(0x1B, 0x23, 0x30));
+    palette.setColor(QPalette::PlaceholderText, QColor(0x63, 0x6D, 0x7B));
+    QApplication::setPalette(palette);
     QFile sheet(QStringLiteral(":/style/orva.qss"));
     if (sheet.open(QIODevice::ReadOnly))
         qApp->setStyleSheet(QString::fromUtf8(sheet.readAll()));
