@@ -185,7 +185,7 @@ void WindowLogin::placeWindow()
 void WindowLogin::centre(const QSize& size)
 {
     QRect place({}, size);
-    place.moveCenter(screen()->availableGeometry().center());
+    place.moveCenter(screen()->geometry().center());
     setGeometry(place);
 }
 

@@ -5,7 +5,6 @@
 #include "store/inicheck.h"
 
 #include <QCoreApplication>
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QHash>
@@ -269,16 +268,14 @@ void moveConfig(const QSettings& from, QSettings& to)
     to.setValue(timeLength, from.value(timeLength).toInt());
 }
 
-bool isSameFile(const QString& a, const QString& b)
+// The path with links resolved, as far as it exists: the file itself may not.
+QString truePath(const QString& path)
 {
-    // The files need not exist, but their folders have one true name, links or not.
-    const QFileInfo first(a);
-    const QFileInfo second(b);
-    if (first.exists() && second.exists())
-        return first.canonicalFilePath() == second.canonicalFilePath();
-    return first.fileName() == second.fileName()
-        && QFileInfo(first.path()).canonicalFilePath()
-        == QFileInfo(second.path()).canonicalFilePath();
+    const QFileInfo file(path);
+    if (file.exists())
+        return file.canonicalFilePath();
+    const QString folder = QFileInfo(file.absolutePath()).canonicalFilePath();
+    return (folder.isEmpty() ? file.absolutePath() : folder) + QLatin1Char('/') + file.fileName();
 }
 
 bool writeValue(const QString& path, const QString& key, const QVariant& value)
@@ -399,7 +396,7 @@ int LocalStore::moveTo(const QString& newPath)
     constexpr int done = 0;
     constexpr int notWritable = 2;
     // Moving a file onto itself would remove the groups just written.
-    if (isSameFile(newPath, path_))
+    if (truePath(newPath) == truePath(path_))
         return done;
     IniFile to(newPath);
     IniFile from(path_);
