@@ -196,11 +196,10 @@ void WindowLogin::setBrand(int number)
     brand_ = number;
     const Brand& brand = brandOf(number);
     QLabel* logo = ui_->label_logo;
-    const QPoint middle = logo->geometry().center();
+    // In line with the fields at the left, and on the middle line of the default logo.
+    const QRect before = logo->geometry();
     logo->setFixedSize(brand.loginLogoSize);
-    QRect place({}, brand.loginLogoSize);
-    place.moveCenter(middle);
-    logo->setGeometry(place);
+    logo->move(before.left(), before.center().y() - brand.loginLogoSize.height() / 2);
     const QString file = QLatin1String(brand.loginLogo);
     logo->setStyleSheet(
         brand.logoScaled ? QString() : QStringLiteral("border-image:url(%1);").arg(file));

@@ -3,6 +3,7 @@
 
 #include <QCoreApplication>
 #include <QFile>
+#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -48,7 +49,7 @@ Result readObject(const QString& path, const QJsonValue& value, const Entry (&en
         const auto* entry = std::find_if(std::begin(entries), std::end(entries),
             [&](const Entry& e) { return it.key() == QLatin1String(e.key); });
         if (entry == std::end(entries))
-            return expected(key, "no such key");
+            return expected(key, "a known key");
         if (Result error = entry->read(key, it.value(), deployment))
             return error;
     }
@@ -145,8 +146,9 @@ QStringList searchFolders()
 void report(const QString& path, const Error& error)
 {
     const QString key = error.key.isEmpty() ? QStringLiteral("(whole file)") : error.key;
+    constexpr int longestKey = 120;
     QString line = QStringLiteral("%1: %2: expected %3; starting with the defaults")
-                       .arg(path, key, error.expected);
+                       .arg(path, key.left(longestKey), error.expected);
     // One harmless line, whatever stands in a key.
     for (QChar& c : line) {
         if (!c.isPrint())
@@ -157,7 +159,8 @@ void report(const QString& path, const Error& error)
 
 Deployment read(QFile& file)
 {
-    if (!file.open(QIODevice::ReadOnly)) {
+    // A pipe in its place would never end.
+    if (!QFileInfo(file).isFile() || !file.open(QIODevice::ReadOnly)) {
         report(file.fileName(), {{}, QStringLiteral("a readable file")});
         return {};
     }

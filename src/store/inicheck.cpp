@@ -67,7 +67,10 @@ bool isIniLine(const QByteArray& line)
 {
     if (line.isEmpty() || line.startsWith(';'))
         return true;
-    return line.startsWith('[') ? line.indexOf(']') == line.size() - 1 : line.contains('=');
+    if (line.startsWith('['))
+        return line.indexOf(']') == line.size() - 1;
+    // A serialised value that Qt cannot decode is nothing to QSettings, and the program stores none.
+    return line.contains('=') && !line.contains("=@Variant(") && !line.contains("=@DateTime(");
 }
 
 } // namespace

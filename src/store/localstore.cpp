@@ -116,7 +116,7 @@ int readInt(const QSettings& file, const QString& key, Stored<Record>& stored)
 {
     const QVariant value = file.value(key, 0);
     bool valid = false;
-    const int number = value.toInt(&valid);
+    const int number = value.toString().toInt(&valid); // QVariant would cut what is too long
     if (!valid)
         stored.unread.insert(key, value);
     return number;
@@ -185,7 +185,7 @@ void writeRecord(QSettings& file, const Stored<LocalDeviceRecord>& stored)
 QList<int> elementNumbers(const QSettings& group)
 {
     bool sizeValid = false;
-    const int size = group.value(sizeKey).toInt(&sizeValid);
+    const int size = group.value(sizeKey).toString().toInt(&sizeValid);
     sizeValid = sizeValid && size >= 0;
     QList<int> numbers;
     for (const QString& name : group.childGroups()) {

@@ -440,6 +440,7 @@ void TestGate::brandSetsLogoAndButton()
     gate.window.setBrand(brand);
     const auto* label = gate.part<QLabel>("label_logo");
     QCOMPARE(label->size(), size);
+    QCOMPARE(label->x(), gate.user()->x());
     if (logo.isEmpty())
         QCOMPARE(label->pixmap(Qt::ReturnByValue).size(), size);
     else

@@ -209,27 +209,41 @@ void TestTasks::taskWithoutAChannelRuns()
     QVERIFY(ran.get_future().get() != QThread::currentThread());
 }
 
-// What a task has captured may use the channel in its destructor.
+// What a task has captured may use the channel in its destructor, which is held up here until the
+// main thread has looked for a device to destroy.
 void TestTasks::capturesAreGoneBeforeTheDevice()
 {
     struct User
     {
-        explicit User(Channel* channel, std::atomic<int>& seen)
+        User(Channel* channel, std::atomic<int>& seen)
             : channel(channel)
             , seen(seen)
         {
         }
-        ~User() { seen = channel->number() + 1; }
+        ~User()
+        {
+            inDestructor.release();
+            mayGo.tryAcquire(1, 5000);
+            seen = channel->number() + 1;
+        }
         Channel* const channel;
         std::atomic<int>& seen;
+        QSemaphore inDestructor;
+        QSemaphore mayGo;
     };
 
     std::atomic<int> seen{0};
+    QSemaphore start;
     Device* device = newDevice();
     const QPointer<QTimer> alive = pulseOf(device);
-    auto user = std::make_shared<User>(device->channel(0), seen);
-    runTask(device->channel(0), [user = std::move(user)] {});
+    User* const user = new User(device->channel(0), seen);
+    runTask(device->channel(0), [owner = std::shared_ptr<User>(user), &start] { start.acquire(); });
+    start.release(); // not before runTask's own copies are gone
     device->retire();
+    QVERIFY(user->inDestructor.tryAcquire(1, 5000));
+    QCoreApplication::sendPostedEvents(QCoreApplication::instance());
+    QVERIFY(alive);
+    user->mayGo.release();
     QTRY_VERIFY(!alive);
     QCOMPARE(seen.load(), 1);
 }

@@ -325,6 +325,8 @@ void TestDamagedFiles::oddSizeKeepsEveryElement_data()
     QTest::newRow("a million") << QByteArray("1000000");
     QTest::newRow("largest") << QByteArray("2147483647");
     QTest::newRow("beyond the largest") << QByteArray("99999999999999999999");
+    QTest::newRow("beyond 32 bits") << QByteArray("4294967296");
+    QTest::newRow("beyond 32 bits by one") << QByteArray("4294967297");
     QTest::newRow("negative") << QByteArray("-1");
     QTest::newRow("most negative") << QByteArray("-2147483648");
     QTest::newRow("text") << QByteArray("two");

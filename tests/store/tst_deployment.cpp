@@ -6,6 +6,8 @@
 
 #include <QTemporaryDir>
 
+#include <sys/stat.h>
+
 class TestDeployment final : public QObject
 {
     Q_OBJECT
@@ -36,6 +38,7 @@ private slots:
     void malformedFileIsOneLineThatNamesAll_data();
     void malformedFileIsOneLineThatNamesAll();
     void directoryInItsPlaceIsOneLine();
+    void pipeInItsPlaceDoesNotHang();
     void lineBreakInAKeyIsStillOneLine_data();
     void lineBreakInAKeyIsStillOneLine();
 
@@ -242,7 +245,7 @@ void addWrongAddresses()
 void addUnknownKeys()
 {
     const auto row = [](const char* json, const char* key) {
-        QTest::newRow(json) << QByteArray(json) << key << "no such key";
+        QTest::newRow(json) << QByteArray(json) << key << "a known key";
     };
     row(R"({"brands":0})", "brands");
     row(R"({"Brand":0})", "Brand");
@@ -399,13 +402,13 @@ void TestDeployment::malformedFileIsOneLineThatNamesAll_data()
                                 << QByteArray("link.searchScope")
                                 << QByteArray("expected the text \"lan\" or \"loopback\"");
     QTest::newRow("unknown key") << QByteArray(R"({"brand":149,"colour":1})")
-                                 << QByteArray("colour") << QByteArray("expected no such key");
+                                 << QByteArray("colour") << QByteArray("expected a known key");
     QTest::newRow("no JSON") << QByteArray(R"({"brand":149)") << QByteArray("(whole file)")
                              << QByteArray("expected JSON (");
     QTest::newRow("no object") << QByteArray("[149]") << QByteArray("(whole file)")
                                << QByteArray("expected an object");
     QTest::newRow("place holders") << QByteArray(R"({"%1%2%3":1})") << QByteArray("%1%2%3")
-                                   << QByteArray("expected no such key");
+                                   << QByteArray("expected a known key");
 }
 
 void TestDeployment::malformedFileIsOneLineThatNamesAll()
@@ -433,6 +436,15 @@ void TestDeployment::directoryInItsPlaceIsOneLine()
     QCOMPARE(line.count('\n'), 1);
     QVERIFY2(line.contains("a/deployment.json: (whole file): expected a readable file"),
         line.constData());
+}
+
+void TestDeployment::pipeInItsPlaceDoesNotHang()
+{
+    QDir().mkpath(folder("a"));
+    QCOMPARE(mkfifo(qPrintable(folder("a/deployment.json")), 0600), 0);
+    StderrCapture capture;
+    QVERIFY(isDefault(Deployment::load({folder("a")})));
+    QVERIFY(capture.text().contains("expected a readable file"));
 }
 
 void TestDeployment::lineBreakInAKeyIsStillOneLine_data()

@@ -68,6 +68,7 @@ void TestIniCheck::tellsIntactFromDamaged_data()
     row("empty", "", true);
     row("line breaks only", "\n\r\n\r", true);
     row("blanks only", " \t \n", true);
+    row("serialised value", "newpath=@Variant(\\0\\0\\0\\x7f)\n", false);
     row("full file", valid, true);
     row("other line breaks", QByteArray(valid).replace("\n", "\r\n"), true);
     row("old line breaks", QByteArray(valid).replace("\n", "\r"), true);
