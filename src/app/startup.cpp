@@ -43,7 +43,8 @@ void setFont()
 void setLook()
 {
     // A style sheet of Qt 5 cannot name the colour of a placeholder, and gives it that of the text
-    // where it names one: so both colours of the input fields come from the palette.
+    // where it names one: so both colours of the input fields come from the palette. They are the
+    // tokens text-1 and text-3.
     QPalette palette = QApplication::palette();
     palette.setColor(QPalette::Text, QColor(0x1B, 0x23, 0x30));
     palette.setColor(QPalette::PlaceholderText, QColor(0x63, 0x6D, 0x7B));

@@ -207,6 +207,8 @@ void WindowLogin::setBrand(int number)
                         brand.loginLogoSize, Qt::KeepAspectRatio, Qt::SmoothTransformation)
                                      : QPixmap());
     applyBrandTexts();
+    if (mainWindow_ != nullptr)
+        mainWindow_->setBrand(brand_);
 }
 
 void WindowLogin::applyBrandTexts()
@@ -218,8 +220,6 @@ void WindowLogin::applyBrandTexts()
             QStringLiteral("here"), QStringLiteral("immediately.")));
     }
     setBusy(busy_);
-    if (mainWindow_ != nullptr)
-        mainWindow_->setBrand(brand_);
 }
 
 void WindowLogin::setBusy(bool busy)

@@ -400,7 +400,7 @@ int LocalStore::moveTo(const QString& newPath)
         return done;
     IniFile to(newPath);
     IniFile from(path_);
-    if (!to.isWritable() || !to.mayWrite() || !from.mayWrite())
+    if (!to.mayWrite() || !from.mayWrite())
         return notWritable;
     moveDevices(from, to);
     moveConfig(from, to);
