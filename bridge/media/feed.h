@@ -13,15 +13,15 @@
 // picture may show a change of two values one after the other.
 struct SceneState
 {
-    std::atomic<float> pan {0}; // -1 (left) to 1 (right)
-    std::atomic<float> tilt {0}; // -1 (down) to 1 (up)
-    std::atomic<float> zoom {0}; // 0 (wide) to 1 (near)
-    std::atomic<float> focus {0.5F}; // 0 to 1
-    std::atomic<float> iris {0.5F}; // 0 to 1
-    std::atomic<int> cruise {0}; // 0 none, 1 auto cruise, 2 cruise
-    std::atomic<int> rotation {0}; // 0 upright, 1 turned by 180 degrees, 2 mirrored, 3 flipped
-    std::atomic<std::int64_t> clockOffsetSeconds {0}; // added to the wall clock that is shown
-    std::atomic<int> zoneOffsetSeconds {0}; // of the zone whose time is shown, east of UTC
+    std::atomic<float> pan{0}; // -1 (left) to 1 (right)
+    std::atomic<float> tilt{0}; // -1 (down) to 1 (up)
+    std::atomic<float> zoom{0}; // 0 (wide) to 1 (near)
+    std::atomic<float> focus{0.5F}; // 0 to 1
+    std::atomic<float> iris{0.5F}; // 0 to 1
+    std::atomic<int> cruise{0}; // 0 none, 1 auto cruise, 2 cruise
+    std::atomic<int> rotation{0}; // 0 upright, 1 turned by 180 degrees, 2 mirrored, 3 flipped
+    std::atomic<std::int64_t> clockOffsetSeconds{0}; // added to the wall clock that is shown
+    std::atomic<int> zoneOffsetSeconds{0}; // of the zone whose time is shown, east of UTC
 };
 
 enum class StampKind { Time, Frame, Off };

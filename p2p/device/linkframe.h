@@ -19,7 +19,7 @@ struct LinkFrame
 {
     // The frame information: codec (2 bytes, little endian), flags (0 a predicted picture or
     // sound, 1 a key frame), 9 bytes that nobody reads, seconds since 1970 (4 bytes, UTC).
-    std::array<std::uint8_t, 16> info {};
+    std::array<std::uint8_t, 16> info{};
     std::vector<std::uint8_t> bytes; // 1 to maxBytes; H.264 and H.265 in Annex B form
     bool key = false; // a decoder can start here; the same as info[2] == 1
 

@@ -75,8 +75,7 @@ public:
     virtual void channelClosed(const LinkChannelPtr& channel) = 0;
     // One message, 1 to 1024 bytes. False leaves it untaken: the client's send goes on waiting.
     virtual bool controlReceived(
-        const LinkChannelPtr& channel, std::uint32_t type, std::string_view bytes)
-        = 0;
+        const LinkChannelPtr& channel, std::uint32_t type, std::string_view bytes) = 0;
     // One sound frame on the speech channel that `channel` joined.
     virtual void speechReceived(const LinkChannelPtr& channel, const LinkFrame& frame) = 0;
     // A client presented a wrong account or password.

@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <algorithm>
+#include <chrono>
+#include <cstddef>
+#include <cstdint>
+#include <deque>
+
+// How far a client is behind: from the packets that were sent and those that are not confirmed
+// yet, tells since when the oldest of them waits. One thread at a time.
+class Backlog
+{
+public:
+    using Clock = std::chrono::steady_clock;
+
+    void sent(std::size_t packets, Clock::time_point now)
+    {
+        total_ += packets;
+        marks_.push_back({total_, now});
+    }
+
+    // Of the oldest packet of the `unconfirmed` last ones; zero when there is none.
+    Clock::duration age(std::size_t unconfirmed, Clock::time_point now)
+    {
+        const std::uint64_t confirmed = total_ - std::min<std::uint64_t>(unconfirmed, total_);
+        while (!marks_.empty() && marks_.front().total <= confirmed)
+            marks_.pop_front();
+        return marks_.empty() ? Clock::duration::zero() : now - marks_.front().time;
+    }
+
+private:
+    struct Mark
+    {
+        std::uint64_t total; // packets sent up to here
+        Clock::time_point time;
+    };
+
+    std::uint64_t total_ = 0;
+    std::deque<Mark> marks_; // one per send with packets unconfirmed, so at most as many as these
+};

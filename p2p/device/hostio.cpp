@@ -1,0 +1,266 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The host's connections: whom it lets in, and what it does with what they send.
+#include "device/host.h"
+
+#include "wire/keys.h"
+#include "wire/limits.h"
+
+#include <array>
+#include <cstring>
+#include <utility>
+#include <variant>
+
+namespace {
+
+// A socket that never runs empty must not keep the others waiting.
+constexpr int readsInARow = 256;
+
+std::optional<Address> addressOf(const sockaddr* peer)
+{
+    if (peer == nullptr || peer->sa_family != AF_INET)
+        return std::nullopt;
+    sockaddr_in address{};
+    std::memcpy(&address, peer, sizeof address);
+    return Address(address);
+}
+
+LinkFrame frameFrom(AssembledFrame&& assembled)
+{
+    LinkFrame frame;
+    std::copy(assembled.info.begin(), assembled.info.end(), frame.info.begin());
+    frame.bytes.assign(assembled.bytes.begin(), assembled.bytes.end());
+    frame.key = assembled.key();
+    return frame;
+}
+
+} // namespace
+
+// Runs on SRT's receiving thread, before the connection exists.
+int Host::admit(
+    void* context, SRTSOCKET socket, int /*version*/, const sockaddr* peer, const char* streamId)
+{
+    auto& host = *static_cast<Host*>(context);
+    const auto address = addressOf(peer);
+    std::variant<std::string, Refusal> decision = Refusal::Malformed;
+    if (address && streamId != nullptr) {
+        const auto id = decodeStreamId(streamId);
+        if (const auto* known = std::get_if<StreamId>(&id))
+            decision = host.directory_.decide(*known, address->ip());
+        else
+            decision = std::get<Refusal>(id);
+    }
+    if (const auto* refusal = std::get_if<Refusal>(&decision)) {
+        srt_setrejectreason(socket, static_cast<int>(*refusal));
+        return -1;
+    }
+    auto& passphrase = std::get<std::string>(decision);
+    // A caller with another key is let in as far as acceptChannel(), which counts it.
+    const bool enforced = false;
+    const bool ready = srt_setsockflag(socket, SRTO_PASSPHRASE, passphrase.data(),
+                           static_cast<int>(passphrase.size()))
+            == 0
+        && srt_setsockflag(socket, SRTO_ENFORCEDENCRYPTION, &enforced, sizeof enforced) == 0;
+    wipe(passphrase);
+    return ready ? 0 : -1;
+}
+
+void Host::dispatch(const SrtPoll::Event& event)
+{
+    if (event.socket == listener_.id()) {
+        acceptAll();
+        return;
+    }
+    Session* session = sessionOf(event.socket);
+    if (session == nullptr) {
+        poll_.remove(event.socket);
+        return;
+    }
+    const auto channel = session->channels.find(event.socket);
+    if (channel != session->channels.end())
+        readChannel(*session, channel->second);
+    else if (event.socket == session->socket.id())
+        readSession(*session);
+    else
+        readSpeech(*session);
+}
+
+void Host::acceptAll()
+{
+    while (auto socket = listener_.accept())
+        accept(std::move(*socket));
+}
+
+void Host::accept(SrtSocket socket)
+{
+    const auto peer = socket.peer();
+    const auto decoded = decodeStreamId(socket.streamId());
+    const auto* id = std::get_if<StreamId>(&decoded);
+    if (!peer || id == nullptr)
+        return;
+    if (!socket.secured()) {
+        const bool locked = directory_.wrongPassword(id->uid, peer->ip());
+        if (Handler* handler = directory_.handlerOf(id->uid))
+            handler->wrongPassword(peer->text(), locked);
+        return;
+    }
+    if (id->kind == StreamId::Kind::Session)
+        acceptSession(std::move(socket), *id, *peer);
+    else
+        acceptChannel(std::move(socket), *id, *peer);
+}
+
+void Host::acceptSession(SrtSocket socket, const StreamId& id, const Address& peer)
+{
+    Handler* handler = directory_.handlerOf(id.uid);
+    if (handler == nullptr || !handler->admit(peer.text())
+        || !directory_.openSession(id.token, id.uid))
+        return;
+    Session session;
+    session.id = ++lastSession_;
+    session.uid = id.uid;
+    session.token = id.token;
+    session.peer = peer.text();
+    session.ip = peer.ip();
+    session.heard = session.told = Clock::now();
+    session.socket = std::move(socket);
+    session.socket.send(encode(directory_.helloOf(id.uid)));
+    owners_[session.socket.id()] = session.id;
+    poll_.add(session.socket.id(), false);
+    {
+        const std::lock_guard lock(handOverMutex_);
+        tokens_[session.id] = session.token;
+    }
+    sessions_.emplace(session.id, std::move(session));
+}
+
+void Host::acceptChannel(SrtSocket socket, const StreamId& id, const Address& peer)
+{
+    Session* session = sessionWith(id.token);
+    Handler* handler = directory_.handlerOf(id.uid);
+    if (session == nullptr || handler == nullptr)
+        return;
+    if (id.kind == StreamId::Kind::Speech) {
+        acceptSpeech(std::move(socket), *session, id);
+        return;
+    }
+    if (!directory_.openChannel(id.token, id.number))
+        return;
+    auto channel = std::make_shared<Channel>(
+        weak_from_this(), std::move(socket), id.number, session->id, peer.text());
+    session->channels.emplace(channel->id(), channel);
+    owners_[channel->id()] = session->id;
+    poll_.add(channel->id(), false);
+    handler->channelOpened(channel);
+}
+
+void Host::acceptSpeech(SrtSocket socket, Session& session, const StreamId& id)
+{
+    if (!session.speech || session.speech->number != id.number || session.speech->socket)
+        return;
+    owners_[socket.id()] = session.id;
+    poll_.add(socket.id(), false);
+    session.speech->socket = std::move(socket);
+}
+
+void Host::heardFrom(Session& session, SRTSOCKET socket)
+{
+    session.heard = Clock::now();
+    poll_.expectData(socket);
+}
+
+void Host::readSession(Session& session)
+{
+    std::array<char, packetBytes> buffer{};
+    std::string_view message;
+    for (int i = 0; i < readsInARow; ++i) {
+        const auto io = session.socket.receive(buffer.data(), message);
+        if (io == SrtSocket::Io::Later)
+            return;
+        if (i == 0)
+            heardFrom(session, session.socket.id());
+        if (io == SrtSocket::Io::Broken || !handle(session, message)) {
+            closeSession(session.id);
+            return;
+        }
+    }
+}
+
+bool Host::handle(Session& session, std::string_view bytes)
+{
+    const auto message = decodeSessionMessage(bytes);
+    if (!message)
+        return false;
+    if (const auto* refuse = std::get_if<RefuseSpeech>(&*message)) {
+        if (session.speech && session.speech->number == refuse->number)
+            closeSpeech(session);
+        return true;
+    }
+    return std::holds_alternative<Alive>(*message);
+}
+
+void Host::readChannel(Session& session, const std::shared_ptr<Channel>& held)
+{
+    const std::shared_ptr<Channel> channel = held; // a handler may close it
+    const std::uint64_t sessionId = session.id;
+    std::array<char, packetBytes> buffer{};
+    std::string_view packet;
+    for (int i = 0; i < readsInARow; ++i) {
+        const auto io = channel->receive(buffer.data(), packet);
+        if (io == SrtSocket::Io::Later)
+            return;
+        if (io == SrtSocket::Io::Broken) {
+            closeChannel(session, channel);
+            return;
+        }
+        if (i == 0)
+            heardFrom(session, channel->id());
+        if (!handle(channel, packet)) {
+            closeSession(sessionId);
+            return;
+        }
+    }
+}
+
+bool Host::handle(const std::shared_ptr<Channel>& channel, std::string_view bytes)
+{
+    const auto packet = decodePacket(bytes);
+    if (!packet)
+        return false;
+    if (const auto* ack = std::get_if<ControlAck>(&*packet))
+        return channel->acknowledged(ack->sequence);
+    const auto* control = std::get_if<Control>(&*packet);
+    if (control == nullptr || !channel->isNextControl(control->sequence))
+        return false;
+    const Session* session = sessionOf(channel->id());
+    Handler* handler = session == nullptr ? nullptr : directory_.handlerOf(session->uid);
+    if (handler != nullptr && handler->controlReceived(channel, control->type, control->bytes))
+        channel->acknowledge(control->sequence);
+    return true;
+}
+
+void Host::readSpeech(Session& session)
+{
+    std::array<char, packetBytes> buffer{};
+    std::string_view bytes;
+    for (int i = 0; i < readsInARow && session.speech; ++i) {
+        const auto io = session.speech->socket.receive(buffer.data(), bytes);
+        if (io == SrtSocket::Io::Later)
+            return;
+        if (io == SrtSocket::Io::Broken) {
+            closeSpeech(session);
+            return;
+        }
+        if (i == 0)
+            heardFrom(session, session.speech->socket.id());
+        const auto packet = decodePacket(bytes);
+        const auto* fragment = packet ? std::get_if<Fragment>(&*packet) : nullptr;
+        if (fragment == nullptr || fragment->media != Media::Audio) {
+            closeSession(session.id);
+            return;
+        }
+        for (AssembledFrame& frame : session.speech->assembler.take(*fragment)) {
+            if (Handler* handler = frame.whole() ? directory_.handlerOf(session.uid) : nullptr)
+                handler->speechReceived(session.speech->listener, frameFrom(std::move(frame)));
+        }
+    }
+}

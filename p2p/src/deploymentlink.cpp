@@ -1,0 +1,104 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "src/deploymentlink.h"
+
+#include "wire/uid.h"
+
+#include <nlohmann/json.hpp>
+
+#include <charconv>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <optional>
+#include <system_error>
+
+namespace {
+
+using Json = nlohmann::json;
+namespace fs = std::filesystem;
+
+// "host:port" or "[v6 address]:port"
+std::optional<DeploymentLink::Endpoint> endpointOf(const std::string& text)
+{
+    const std::size_t colon = text.rfind(':');
+    if (colon == std::string::npos || colon == 0)
+        return std::nullopt;
+    DeploymentLink::Endpoint endpoint;
+    endpoint.host = text.substr(0, colon);
+    if (endpoint.host.front() == '[' && endpoint.host.back() == ']')
+        endpoint.host = endpoint.host.substr(1, endpoint.host.size() - 2);
+    const char* end = text.data() + text.size();
+    const auto read = std::from_chars(text.data() + colon + 1, end, endpoint.port);
+    if (read.ec != std::errc() || read.ptr != end || endpoint.port == 0)
+        return std::nullopt;
+    return endpoint;
+}
+
+bool readBook(const Json& book, DeploymentLink& link)
+{
+    if (!book.is_object())
+        return false;
+    for (const auto& [uid, value] : book.items()) {
+        const auto endpoint =
+            value.is_string() ? endpointOf(value.get<std::string>()) : std::nullopt;
+        if (!isUid(uid) || !endpoint)
+            return false;
+        link.addressBook.emplace(uid, *endpoint);
+    }
+    return true;
+}
+
+bool readScope(const Json& scope, DeploymentLink& link)
+{
+    link.loopbackOnly = scope == "loopback";
+    return scope == "loopback" || scope == "lan";
+}
+
+bool read(const Json& root, DeploymentLink& link)
+{
+    if (!root.is_object() || !root.contains("link"))
+        return root.is_object();
+    const Json& part = root["link"];
+    return part.is_object()
+        && (!part.contains("searchScope") || readScope(part["searchScope"], link))
+        && (!part.contains("addressBook") || readBook(part["addressBook"], link));
+}
+
+std::vector<fs::path> folders()
+{
+    std::error_code error;
+    std::vector<fs::path> found{fs::read_symlink("/proc/self/exe", error).parent_path()};
+    const char* configured = std::getenv("XDG_CONFIG_DIRS");
+    std::string_view list = configured != nullptr && *configured != '\0' ? configured : "/etc/xdg";
+    while (!list.empty()) {
+        const std::string_view folder = list.substr(0, list.find(':'));
+        list.remove_prefix(std::min(list.size(), folder.size() + 1));
+        found.push_back(fs::path(folder) / "Quvane" / "ORVA");
+    }
+    return found;
+}
+
+} // namespace
+
+DeploymentLink DeploymentLink::parse(std::string_view json)
+{
+    const Json root = Json::parse(json, nullptr, false);
+    DeploymentLink link;
+    return read(root, link) ? link : DeploymentLink();
+}
+
+DeploymentLink DeploymentLink::load()
+{
+    for (const fs::path& folder : folders()) {
+        const fs::path path = folder / "deployment.json";
+        std::error_code error;
+        if (!fs::exists(path, error))
+            continue;
+        // A pipe in its place would never end.
+        if (!fs::is_regular_file(path, error))
+            return {};
+        std::ifstream file(path, std::ios::binary);
+        return parse(std::string(std::istreambuf_iterator<char>(file), {}));
+    }
+    return {};
+}
