@@ -20,6 +20,7 @@ int openingResult(int rejectReason)
 {
     switch (rejectReason) {
     case SRT_REJ_BADSECRET:
+    case SRT_REJ_UNSECURE: // the device says that it cannot read us
         return AV_WRONG_PASSWORD;
     case static_cast<int>(Refusal::LockedOut):
         return AV_LOCKED_OUT;
