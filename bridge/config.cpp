@@ -77,7 +77,7 @@ void readTransport(YamlMap& map, SourceSettings& source)
 
 void readUrl(const YAML::Node& node, const char* what, std::string& url, const Reading& reading)
 {
-    if (!plainText(node, url, maxUrlBytes, what, reading.errors))
+    if (!plainText(node, url, maxUrlBytes, {lineOf(node), what}, reading.errors))
         return;
     const std::string problem = settleUrl(url, reading);
     if (!problem.empty())
@@ -145,7 +145,7 @@ void readWifi(YamlMap& map, DeviceConfig& device, const Reading& reading)
         map.error("wifi", "expected a list of names");
     for (const auto& entry : list) {
         std::string name;
-        if (plainText(entry, name, maxWifiBytes, "wifi", reading.errors))
+        if (plainText(entry, name, maxWifiBytes, {lineOf(entry), "wifi"}, reading.errors))
             device.wifi.push_back(name);
     }
 }
@@ -159,7 +159,7 @@ void readFaults(YamlMap& map, DeviceConfig& device, const Reading& reading)
         map.error("faults", "expected a list of faults");
     for (const auto& entry : list) {
         std::string line;
-        if (!plainText(entry, line, 128, "faults", reading.errors))
+        if (!plainText(entry, line, 128, {lineOf(entry), "faults"}, reading.errors))
             continue;
         const auto fault = parseFault(line);
         if (const auto* problem = std::get_if<std::string>(&fault))

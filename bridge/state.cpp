@@ -100,11 +100,12 @@ std::unique_ptr<StateFile> StateFile::open(const std::string& path, std::string&
 std::string StateFile::prepare()
 {
     // The lock of the first transaction is kept to the end: it is what a second bridge meets.
-    if (!execute(database_.get(), "PRAGMA locking_mode = EXCLUSIVE; PRAGMA synchronous = FULL"))
+    const bool locked = execute(database_.get(),
+        "PRAGMA locking_mode = EXCLUSIVE; PRAGMA synchronous = FULL; BEGIN EXCLUSIVE");
+    if (!locked && sqlite3_errcode(database_.get()) == SQLITE_BUSY)
+        return "another bridge uses it";
+    if (!locked)
         return lastError();
-    if (!execute(database_.get(), "BEGIN EXCLUSIVE"))
-        return sqlite3_errcode(database_.get()) == SQLITE_BUSY ? "another bridge uses it"
-                                                               : lastError();
     const std::string problem = checkSchema();
     if (!problem.empty()) {
         execute(database_.get(), "ROLLBACK");

@@ -66,16 +66,25 @@ YAML::Node YamlMap::require(const char* key)
     return take(key);
 }
 
+// Not the line of the value, which for an empty one is that of whatever comes next.
+int YamlMap::lineOfKey(const std::string& key) const
+{
+    for (const auto& entry : node_)
+        if (entry.first.IsScalar() && entry.first.Scalar() == key)
+            return lineOf(entry.first);
+    return line();
+}
+
 void YamlMap::error(const char* key, const std::string& text)
 {
-    errors_.push_back({has(key) ? lineOf(node_[key]) : line(), std::string(key) + ": " + text});
+    errors_.push_back({lineOfKey(key), std::string(key) + ": " + text});
 }
 
 void YamlMap::text(const char* key, std::string& value, std::size_t largest)
 {
     const auto node = take(key);
     if (node.IsDefined())
-        plainText(node, value, largest, key, errors_);
+        plainText(node, value, largest, {lineOfKey(key), key}, errors_);
 }
 
 void YamlMap::flag(const char* key, bool& value)
@@ -103,12 +112,13 @@ void YamlMap::number(const char* key, int& value, int low, int high)
 }
 
 bool plainText(const YAML::Node& node, std::string& value, std::size_t largest,
-    const std::string& what, ConfigErrors& errors)
+    const ConfigPlace& place, ConfigErrors& errors)
 {
     const std::string text = node.IsScalar() ? node.Scalar() : std::string();
     if (text.empty() || text.size() > largest || holdsControlCharacter(text)) {
-        errors.push_back({lineOf(node),
-            what + ": expected a text of 1 to " + std::to_string(largest) + " bytes on one line"});
+        errors.push_back({place.line,
+            place.what + ": expected a text of 1 to " + std::to_string(largest)
+                + " bytes on one line"});
         return false;
     }
     value = text;

@@ -11,6 +11,13 @@
 
 using ConfigErrors = std::vector<ConfigError>;
 
+// Where an error is, and of what.
+struct ConfigPlace
+{
+    int line;
+    std::string what;
+};
+
 // Of a node, from 1 on.
 int lineOf(const YAML::Node& node);
 
@@ -54,15 +61,18 @@ public:
         error(key, "expected one of " + expected);
     }
 
-    // At the line of the key's value, or of the map when that is missing.
+    // At the line of the key, or of the map when that is missing.
     void error(const char* key, const std::string& text);
 
 private:
+    int lineOfKey(const std::string& key) const;
+
     const YAML::Node node_;
     std::set<std::string> taken_;
     ConfigErrors& errors_;
 };
 
-// A text of a list, without control characters. Nothing but an error for another kind of node.
+// Reads a text of 1 to `largest` bytes without control characters. False, and an error, for
+// anything else.
 bool plainText(const YAML::Node& node, std::string& value, std::size_t largest,
-    const std::string& what, ConfigErrors& errors);
+    const ConfigPlace& place, ConfigErrors& errors);

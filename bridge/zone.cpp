@@ -158,13 +158,13 @@ std::optional<Zone> Zone::parse(std::string_view file)
 
 std::optional<Zone> Zone::load(std::string_view name)
 {
-    if (!isZoneName(name))
-        return std::nullopt;
     if (const auto offset = fixedOffset(name)) {
         Zone zone;
         zone.first_ = *offset;
         return zone;
     }
+    if (!isZoneName(name))
+        return std::nullopt;
     std::string known(name);
     auto file = readZoneFile(known);
     const auto utc = known.find("UTC");

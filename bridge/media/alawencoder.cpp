@@ -7,9 +7,9 @@
 
 std::uint8_t alawFromLinear(std::int16_t sample)
 {
-    // 13 bits and sign; the even bits of the result are inverted.
+    // 12 bits and sign; the even bits of the result are inverted.
     const bool positive = sample >= 0;
-    const int magnitude = (positive ? sample : -1 - sample) >> 4;
+    const int magnitude = (positive ? sample : -1 - sample) >> 3;
     int exponent = 0;
     while (exponent < 7 && magnitude >> (exponent + 5) != 0)
         ++exponent;

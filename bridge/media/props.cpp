@@ -161,12 +161,20 @@ void drawCar(Painter& painter, const Pose& pose, Colour colour, double lights)
 void drawVan(Painter& painter, const Pose& pose, Colour colour, double lights)
 {
     shadeBox(painter, pose, {-2.6, -1, 0}, {2.6, 1, 1.9});
-    painter.box(pose, {-2.6, -1, 0.3}, {1.3, 1, 2.3}, colour);
-    const Polygon sill = ring(pose, {1.3, -1, 0}, {2.6, 1, 0}, 0.3);
-    const Polygon belt = ring(pose, {1.3, -1, 0}, {2.55, 1, 0}, 1.15);
-    painter.solid(sill, belt, colour, colour);
-    const Polygon roof = ring(pose, {1.3, -0.92, 0}, {1.6, 0.92, 0}, 2.2);
-    painter.solid(belt, roof, glass, colour);
+    const auto drawLoad = [&] { painter.box(pose, {-2.6, -1, 0.3}, {1.3, 1, 2.3}, colour); };
+    const auto drawFront = [&] {
+        const Polygon sill = ring(pose, {1.3, -1, 0}, {2.6, 1, 0}, 0.3);
+        const Polygon belt = ring(pose, {1.3, -1, 0}, {2.55, 1, 0}, 1.15);
+        painter.solid(sill, belt, colour, colour);
+        const Polygon roof = ring(pose, {1.3, -0.94, 0}, {1.75, 0.94, 0}, 2.24);
+        painter.solid(belt, roof, glass, colour);
+    };
+    const bool frontNear = painter.scaleAt(pose(2, 0, 1)) > painter.scaleAt(pose(0.6, 0, 1));
+    if (!frontNear)
+        drawFront();
+    drawLoad();
+    if (frontNear)
+        drawFront();
     drawWheels(painter, pose, 1.75, -1.7, 1, 0.36);
     drawCarLights(painter, pose, 2.6, -2.61, 0.95, lights);
 }

@@ -101,8 +101,6 @@ std::variant<std::string, Refusal> Directory::decideChannel(
         return Refusal::UnknownSession;
     if (id.number >= device.device.channels && session->second.offered.count(id.number) == 0)
         return Refusal::NoSuchChannel;
-    if (session->second.open.count(id.number) != 0)
-        return Refusal::ChannelOpen;
     return device.accountKey;
 }
 
@@ -171,23 +169,6 @@ void Directory::closeSession(const SessionToken& token)
 {
     const std::lock_guard lock(mutex_);
     sessions_.erase(token);
-}
-
-bool Directory::openChannel(const SessionToken& token, int number)
-{
-    const std::lock_guard lock(mutex_);
-    const auto found = sessions_.find(token);
-    return found != sessions_.end() && found->second.open.insert(number).second;
-}
-
-void Directory::closeChannel(const SessionToken& token, int number)
-{
-    const std::lock_guard lock(mutex_);
-    const auto found = sessions_.find(token);
-    if (found == sessions_.end())
-        return;
-    found->second.open.erase(number);
-    found->second.offered.erase(number);
 }
 
 int Directory::offerChannel(const SessionToken& token)

@@ -40,9 +40,6 @@ public:
     // False when the device is gone or there are too many sessions.
     bool openSession(const SessionToken& token, const std::string& uid);
     void closeSession(const SessionToken& token);
-    // False when the session is gone or the channel open already.
-    bool openChannel(const SessionToken& token, int number);
-    void closeChannel(const SessionToken& token, int number);
     int offerChannel(const SessionToken& token);
     void takeBackChannel(const SessionToken& token, int number);
     void expectSpeech(const SessionToken& token, std::optional<int> number);
@@ -61,7 +58,6 @@ private:
     struct Session
     {
         std::string uid;
-        std::set<int> open;
         std::set<int> offered;
         std::optional<int> speech;
     };

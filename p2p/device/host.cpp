@@ -158,6 +158,7 @@ void Host::run()
     while (!stopping_) {
         for (const SrtPoll::Event& event : poll_.wait(tick))
             dispatch(event);
+        checkCallers();
         runHandedOver();
         answerSearches();
         keepAlive();
@@ -224,7 +225,7 @@ void Host::closeChannel(Session& session, const std::shared_ptr<Channel>& held)
     poll_.remove(channel->id());
     owners_.erase(channel->id());
     session.channels.erase(channel->id());
-    directory_.closeChannel(session.token, channel->number());
+    directory_.takeBackChannel(session.token, channel->number());
     if (session.speech && session.speech->listener == channel)
         closeSpeech(session);
     channel->shut();

@@ -46,6 +46,13 @@ public:
 
 private:
     using Clock = Session::Clock;
+
+    // Who has been let in as far as the handshake, which shows whether the key is right.
+    struct Caller
+    {
+        std::string uid;
+        Address peer;
+    };
     using Handler = LinkDeviceHandler;
 
     bool listen(const LinkHostSettings& settings, std::string& error);
@@ -59,6 +66,7 @@ private:
     void answerSearches();
     void dispatch(const SrtPoll::Event& event);
     void acceptAll();
+    void checkCallers();
     void accept(SrtSocket socket);
     void acceptSession(SrtSocket socket, const StreamId& id, const Address& peer);
     void acceptChannel(SrtSocket socket, const StreamId& id, const Address& peer);
@@ -96,6 +104,9 @@ private:
     std::map<SRTSOCKET, std::uint64_t> owners_; // which session a socket belongs to
     std::uint64_t lastSession_ = 0;
     Clock::time_point lastKeepAlive_;
+
+    std::mutex callersMutex_; // taken by SRT's thread, with its locks held
+    std::map<SRTSOCKET, Caller> callers_; // guarded by callersMutex_
 
     std::mutex handOverMutex_;
     std::vector<std::function<void()>> handedOver_; // guarded by handOverMutex_

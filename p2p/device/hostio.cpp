@@ -42,8 +42,8 @@ int Host::admit(
     auto& host = *static_cast<Host*>(context);
     const auto address = addressOf(peer);
     std::variant<std::string, Refusal> decision = Refusal::Malformed;
-    if (address && streamId != nullptr) {
-        const auto id = decodeStreamId(streamId);
+    const auto id = decodeStreamId(streamId != nullptr ? streamId : "");
+    if (address) {
         if (const auto* known = std::get_if<StreamId>(&id))
             decision = host.directory_.decide(*known, address->ip());
         else
@@ -54,14 +54,39 @@ int Host::admit(
         return -1;
     }
     auto& passphrase = std::get<std::string>(decision);
-    // A caller with another key is let in as far as acceptChannel(), which counts it.
+    // A caller with another key is let in as far as accept(), so that it can be told from one
+    // whose connection breaks.
     const bool enforced = false;
     const bool ready = srt_setsockflag(socket, SRTO_PASSPHRASE, passphrase.data(),
                            static_cast<int>(passphrase.size()))
             == 0
         && srt_setsockflag(socket, SRTO_ENFORCEDENCRYPTION, &enforced, sizeof enforced) == 0;
     wipe(passphrase);
+    const std::lock_guard lock(host.callersMutex_);
+    host.callers_[socket] = {std::get<StreamId>(id).uid, *address};
     return ready ? 0 : -1;
+}
+
+// A wrong key shows in the state of the connection, which may be over before it is accepted. SRT is
+// asked without the mutex, which its own thread takes with its locks held.
+void Host::checkCallers()
+{
+    std::unique_lock lock(callersMutex_);
+    const std::map<SRTSOCKET, Caller> callers = callers_;
+    lock.unlock();
+    for (const auto& [socket, caller] : callers) {
+        const auto key = SrtSocket::keyOf(socket);
+        if (key == SrtSocket::Key::Unknown)
+            continue;
+        lock.lock();
+        const bool forgotten = callers_.erase(socket) != 0;
+        lock.unlock();
+        if (key != SrtSocket::Key::Wrong || !forgotten)
+            continue;
+        const bool locked = directory_.wrongPassword(caller.uid, caller.peer.ip());
+        if (Handler* handler = directory_.handlerOf(caller.uid))
+            handler->wrongPassword(caller.peer.text(), locked);
+    }
 }
 
 void Host::dispatch(const SrtPoll::Event& event)
@@ -97,11 +122,11 @@ void Host::accept(SrtSocket socket)
     const auto* id = std::get_if<StreamId>(&decoded);
     if (!peer || id == nullptr)
         return;
-    if (!socket.secured()) {
-        const bool locked = directory_.wrongPassword(id->uid, peer->ip());
-        if (Handler* handler = directory_.handlerOf(id->uid))
-            handler->wrongPassword(peer->text(), locked);
-        return;
+    if (!socket.secured())
+        return; // checkCallers() counts it
+    {
+        const std::lock_guard lock(callersMutex_);
+        callers_.erase(socket.id());
     }
     if (id->kind == StreamId::Kind::Session)
         acceptSession(std::move(socket), *id, *peer);
@@ -143,8 +168,13 @@ void Host::acceptChannel(SrtSocket socket, const StreamId& id, const Address& pe
         acceptSpeech(std::move(socket), *session, id);
         return;
     }
-    if (!directory_.openChannel(id.token, id.number))
-        return;
+    // A client that starts a channel again may be faster than the end of the old connection.
+    for (const auto& [name, old] : session->channels) {
+        if (old->number() == id.number) {
+            closeChannel(*session, old);
+            break;
+        }
+    }
     auto channel = std::make_shared<Channel>(
         weak_from_this(), std::move(socket), id.number, session->id, peer.text());
     session->channels.emplace(channel->id(), channel);

@@ -143,13 +143,28 @@ int AvChannel::receiveControl(
         return AV_NO_ANSWER;
     const Message message = std::move(messages_.front());
     messages_.pop_front();
-    // Only now the device may send another in its place.
-    socket_.send(encode(ControlAck{received_ - static_cast<std::uint32_t>(messages_.size())}));
+    // Only now the device may send another in its place. A burst is confirmed in few steps.
+    confirm(messages_.empty() ? 1 : controlWindow / 4);
     if (message.bytes.size() > capacity)
         return AV_TOO_LARGE;
     std::copy(message.bytes.begin(), message.bytes.end(), buffer);
     *type = message.type;
     return static_cast<int>(message.bytes.size());
+}
+
+void AvChannel::confirm(std::uint32_t step)
+{
+    const std::uint32_t taken = received_ - static_cast<std::uint32_t>(messages_.size());
+    if (taken - confirmed_ >= step
+        && socket_.send(encode(ControlAck{taken})) == SrtSocket::Io::Done)
+        confirmed_ = taken;
+}
+
+void AvChannel::flush()
+{
+    const std::lock_guard lock(mutex_);
+    if (open_ && ended_ == 0)
+        confirm(1);
 }
 
 int AvChannel::receiveFrame(Media media, const FrameTarget& target)

@@ -73,6 +73,8 @@ public:
     void opened();
     int rejectReason() const { return socket_.rejectReason(); }
     SrtSocket::Io receive(char* buffer, std::string_view& packet);
+    // Sends the acknowledgement that found no room.
+    void flush();
     // False for what no device of this version sends.
     bool take(const Packet& packet);
 
@@ -87,6 +89,7 @@ private:
     int transmit(Lock& lock, std::uint32_t type, std::string_view bytes, unsigned int exits);
     int awaitAck(Lock& lock, std::uint32_t sequence, unsigned int exits);
     int deliver(const AssembledFrame& frame, const FrameTarget& target);
+    void confirm(std::uint32_t step);
     void take(const Fragment& fragment);
     bool take(const Control& control);
     void take(const ControlAck& ack);
@@ -110,6 +113,7 @@ private:
     FrameQueue sound_;
     std::deque<Message> messages_; // received; at most a window of them
     std::uint32_t received_ = 0;
+    std::uint32_t confirmed_ = 0; // of received_, what the device knows to be taken
     std::uint32_t sent_ = 0;
     std::uint32_t acknowledged_ = 0;
     unsigned int exits_ = 0; // counts exitSends()

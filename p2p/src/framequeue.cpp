@@ -3,12 +3,21 @@
 
 #include <utility>
 
+namespace {
+
+bool canStart(const AssembledFrame& frame)
+{
+    return frame.key() && frame.whole();
+}
+
+} // namespace
+
 void FrameQueue::put(AssembledFrame&& frame)
 {
     if (lastNumber_ && frame.number != *lastNumber_ + 1)
         noteLoss();
     lastNumber_ = frame.number;
-    if (waitingForKey_ && !frame.key()) {
+    if (waitingForKey_ && !canStart(frame)) {
         noteLoss();
         return;
     }
@@ -24,6 +33,21 @@ std::optional<FrameQueue::Item> FrameQueue::take()
 {
     if (items_.empty())
         return std::nullopt;
+    Item item = removeFirst();
+    lossTaken_ = !item;
+    return item;
+}
+
+void FrameQueue::clear()
+{
+    items_.clear();
+    frames_ = 0;
+    bytes_ = 0;
+    lossTaken_ = false;
+}
+
+FrameQueue::Item FrameQueue::removeFirst()
+{
     Item item = std::move(items_.front());
     items_.pop_front();
     if (item) {
@@ -33,30 +57,23 @@ std::optional<FrameQueue::Item> FrameQueue::take()
     return item;
 }
 
-void FrameQueue::clear()
-{
-    items_.clear();
-    frames_ = 0;
-    bytes_ = 0;
-}
-
 void FrameQueue::noteLoss()
 {
-    if (items_.empty() || items_.back())
+    if (items_.empty() ? !lossTaken_ : items_.back().has_value())
         items_.emplace_back();
 }
 
 void FrameQueue::makeRoom()
 {
     do
-        take();
-    while (!items_.empty() && (isFull() || (limits_.byKeyFrame && !startsWithKeyFrame())));
+        removeFirst();
+    while (!items_.empty() && (isFull() || !canStartWithFirst()));
     waitingForKey_ = limits_.byKeyFrame && items_.empty();
-    if (items_.empty() || items_.front())
+    if (!lossTaken_)
         items_.emplace_front();
 }
 
-bool FrameQueue::startsWithKeyFrame() const
+bool FrameQueue::canStartWithFirst() const
 {
-    return items_.front() && items_.front()->key();
+    return items_.front() && (!limits_.byKeyFrame || canStart(*items_.front()));
 }

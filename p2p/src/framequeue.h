@@ -8,8 +8,9 @@
 #include <deque>
 #include <optional>
 
-// The frames of one medium that wait for the client, in order, with a mark wherever frames were
-// lost: on the way, as their numbers show, or here, when the client takes them too slowly.
+// The frames of one medium that wait for the client, in order, with one mark for each run of lost
+// frames: lost on the way, as their numbers show, or here, when the client takes them too slowly.
+// Two marks never follow each other, also when the client takes the first while the run goes on.
 // One thread at a time.
 class FrameQueue
 {
@@ -18,7 +19,7 @@ public:
     {
         std::size_t frames;
         std::size_t bytes;
-        // Past a limit: frames are dropped up to the next key frame, or else one by one.
+        // Past a limit: frames are dropped up to the next whole key frame, or else one by one.
         bool byKeyFrame;
     };
 
@@ -39,9 +40,10 @@ public:
 
 private:
     bool isFull() const { return frames_ > limits_.frames || bytes_ > limits_.bytes; }
+    Item removeFirst();
     void noteLoss();
     void makeRoom();
-    bool startsWithKeyFrame() const;
+    bool canStartWithFirst() const;
 
     const Limits limits_;
     std::deque<Item> items_;
@@ -49,4 +51,5 @@ private:
     std::size_t bytes_ = 0; // of these
     std::optional<std::uint32_t> lastNumber_; // of the last frame that came in
     bool waitingForKey_ = false;
+    bool lossTaken_ = false; // the item taken last was a mark
 };

@@ -24,8 +24,6 @@ int openingResult(int rejectReason)
         return AV_WRONG_PASSWORD;
     case static_cast<int>(Refusal::LockedOut):
         return AV_LOCKED_OUT;
-    case static_cast<int>(Refusal::ChannelOpen):
-        return AV_CHANNEL_OPEN;
     case static_cast<int>(Refusal::Full):
         return AV_NO_FREE_CHANNEL;
     case static_cast<int>(Refusal::UnknownDevice):
@@ -164,6 +162,8 @@ void Layer::keepAlive(Clock::time_point now)
     if (now - lastKeepAlive_ < keepAliveTick)
         return;
     lastKeepAlive_ = now;
+    for (const auto& [index, channel] : channels_)
+        channel->flush();
     for (auto& [id, session] : sessions_) {
         if (session.state != State::Connected)
             continue;

@@ -174,9 +174,12 @@ std::string SrtSocket::streamId() const
     return {text.data(), static_cast<std::size_t>(length)};
 }
 
-bool SrtSocket::secured() const
+SrtSocket::Key SrtSocket::keyOf(SRTSOCKET id)
 {
-    return secret(id_, SRTO_SNDKMSTATE) && secret(id_, SRTO_RCVKMSTATE);
+    const SRT_SOCKSTATUS state = srt_getsockstate(id);
+    if (state < SRTS_CONNECTED)
+        return Key::Unknown;
+    return secret(id, SRTO_SNDKMSTATE) && secret(id, SRTO_RCVKMSTATE) ? Key::Right : Key::Wrong;
 }
 
 SrtSocket::Io SrtSocket::send(std::string_view message) const

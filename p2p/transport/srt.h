@@ -90,7 +90,11 @@ public:
     int rejectReason() const { return srt_getrejectreason(id_); }
     bool connected() const { return srt_getsockstate(id_) == SRTS_CONNECTED; }
     // Both directions are encrypted with a key that both ends have.
-    bool secured() const;
+    bool secured() const { return keyOf(id_) == Key::Right; }
+
+    // What the handshake of a connection has shown; of one that SRT has forgotten, Wrong.
+    enum class Key { Unknown, Right, Wrong };
+    static Key keyOf(SRTSOCKET id);
 
     Io send(std::string_view message) const;
     // `message` points into `buffer`, of packetBytes.

@@ -11,6 +11,16 @@ bool Assembler::continues(const Fragment& fragment) const
         && fragment.payload.size() <= frame_->announcedSize - frame_->bytes.size();
 }
 
+// A frame in part must not keep the memory that was taken for the whole of it.
+AssembledFrame Assembler::end()
+{
+    AssembledFrame frame = *std::move(frame_);
+    frame_.reset();
+    if (!frame.whole())
+        frame.bytes.shrink_to_fit();
+    return frame;
+}
+
 void Assembler::begin(const Fragment& fragment)
 {
     frame_.emplace();
@@ -24,10 +34,8 @@ void Assembler::begin(const Fragment& fragment)
 std::vector<AssembledFrame> Assembler::take(const Fragment& fragment)
 {
     std::vector<AssembledFrame> ended;
-    if (frame_ && !continues(fragment)) {
-        ended.push_back(*std::move(frame_));
-        frame_.reset();
-    }
+    if (frame_ && !continues(fragment))
+        ended.push_back(end());
     if (!frame_) {
         if (fragment.index != 0)
             return ended;
@@ -35,9 +43,7 @@ std::vector<AssembledFrame> Assembler::take(const Fragment& fragment)
     }
     frame_->bytes.insert(frame_->bytes.end(), fragment.payload.begin(), fragment.payload.end());
     ++nextIndex_;
-    if (fragment.last || frame_->whole()) {
-        ended.push_back(*std::move(frame_));
-        frame_.reset();
-    }
+    if (fragment.last || frame_->whole())
+        ended.push_back(end());
     return ended;
 }

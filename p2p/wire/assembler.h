@@ -34,6 +34,7 @@ public:
 private:
     bool continues(const Fragment& fragment) const;
     void begin(const Fragment& fragment);
+    AssembledFrame end();
 
     std::optional<AssembledFrame> frame_; // the one under way
     std::uint16_t nextIndex_ = 0;

@@ -48,7 +48,5 @@ enum class Refusal : int {
     LockedOut = 2003, // too many wrong passwords from this address
     UnknownSession = 2004,
     NoSuchChannel = 2005,
-    ChannelOpen = 2006, // this channel of the session is open already
-    Full = 2007, // too many sessions or channels
-    NotAdmitted = 2008, // the device's own decision
+    Full = 2006, // too many sessions
 };

@@ -6,6 +6,7 @@
 
 #include <QTest>
 
+#include <chrono>
 #include <condition_variable>
 #include <mutex>
 #include <string>
@@ -24,12 +25,14 @@ public:
         reports.changed_.notify_all();
     }
 
-    // The result of the final report; waits for it.
+    // The result of the final report; waits for it. A number that no connect has when none comes.
     int final()
     {
+        constexpr int none = -999;
         std::unique_lock lock(mutex_);
-        changed_.wait_for(lock, std::chrono::seconds(20), [this] { return finals() > 0; });
-        return finals() > 0 ? all_.back().second : 0;
+        const bool came =
+            changed_.wait_for(lock, std::chrono::seconds(20), [this] { return finals() > 0; });
+        return came ? all_.back().second : none;
     }
     int finalCount()
     {
@@ -77,7 +80,10 @@ struct ReceivedFrame
 {
     int result = 0; // the size, or a negative number
     unsigned int number = 0;
-    std::string info = std::string(16, '\0');
+    int actualSize = 0;
+    int expectedSize = 0;
+    int infoSize = 0;
+    std::string info = std::string(AV_FRAME_INFO_BYTES, '\0');
     std::string bytes;
 };
 
@@ -85,22 +91,56 @@ inline ReceivedFrame receiveVideo(int avIndex, int capacity = 2304000)
 {
     ReceivedFrame frame;
     std::string buffer(static_cast<std::size_t>(capacity), '\0');
-    frame.result = avRecvFrameData2(avIndex, buffer.data(), capacity, nullptr, nullptr,
-        frame.info.data(), 16, nullptr, &frame.number);
+    frame.result =
+        avRecvFrameData2(avIndex, buffer.data(), capacity, &frame.actualSize, &frame.expectedSize,
+            frame.info.data(), AV_FRAME_INFO_BYTES, &frame.infoSize, &frame.number);
     if (frame.result > 0)
         frame.bytes = buffer.substr(0, static_cast<std::size_t>(frame.result));
     return frame;
 }
 
-// Waits until something else than "nothing ready" comes.
-inline ReceivedFrame awaitVideo(int avIndex)
+inline ReceivedFrame receiveSound(int avIndex, int capacity = 1024)
+{
+    ReceivedFrame frame;
+    std::string buffer(static_cast<std::size_t>(capacity), '\0');
+    frame.result = avRecvAudioData(
+        avIndex, buffer.data(), capacity, frame.info.data(), AV_FRAME_INFO_BYTES, &frame.number);
+    if (frame.result > 0)
+        frame.bytes = buffer.substr(0, static_cast<std::size_t>(frame.result));
+    return frame;
+}
+
+// Waits until something else than "nothing ready" comes, for ten seconds at most.
+inline ReceivedFrame awaitVideo(int avIndex, int capacity = 2304000)
 {
     ReceivedFrame frame;
     for (int i = 0; i < 10000; ++i) {
-        frame = receiveVideo(avIndex);
+        frame = receiveVideo(avIndex, capacity);
         if (frame.result != AV_NOTHING_READY)
             break;
         QTest::qWait(1);
     }
     return frame;
+}
+
+struct ReceivedMessage
+{
+    int result = 0; // the length, or a negative number
+    unsigned int type = 0;
+    std::string bytes;
+};
+
+inline ReceivedMessage receiveMessage(int avIndex, unsigned int timeoutMs, int capacity = 1024)
+{
+    ReceivedMessage message;
+    std::string buffer(static_cast<std::size_t>(capacity), '\0');
+    message.result = avRecvIOCtrl(avIndex, &message.type, buffer.data(), capacity, timeoutMs);
+    if (message.result > 0)
+        message.bytes = buffer.substr(0, static_cast<std::size_t>(message.result));
+    return message;
+}
+
+inline int sendMessage(int avIndex, unsigned int type, const std::string& bytes)
+{
+    return avSendIOCtrl(avIndex, type, bytes.data(), static_cast<int>(bytes.size()));
 }

@@ -9,6 +9,7 @@
 #include <memory>
 #include <mutex>
 #include <string>
+#include <thread>
 #include <vector>
 
 // A device for tests: publishes one UID and records what its clients do. By default it admits
@@ -49,8 +50,8 @@ public:
     // Ends the host, as a device does that is switched off.
     void switchOff() { host_.reset(); }
 
-    std::atomic<bool> admits {true};
-    std::atomic<bool> takes {true};
+    std::atomic<bool> admits{true};
+    std::atomic<bool> takes{true};
 
     std::vector<LinkChannelPtr> channels()
     {
@@ -62,6 +63,16 @@ public:
         for (const LinkChannelPtr& channel : channels()) {
             if (channel->number() == number)
                 return channel;
+        }
+        return nullptr;
+    }
+    // Waits for it, for ten seconds at most.
+    LinkChannelPtr awaitChannel(int number)
+    {
+        for (int i = 0; i < 1000; ++i) {
+            if (LinkChannelPtr found = channel(number))
+                return found;
+            std::this_thread::sleep_for(std::chrono::milliseconds(10));
         }
         return nullptr;
     }
@@ -134,8 +145,8 @@ private:
     std::vector<LinkChannelPtr> channels_; // guarded by mutex_
     std::vector<Message> messages_; // guarded by mutex_
     std::vector<LinkFrame> speech_; // guarded by mutex_
-    std::atomic<int> opened_ {0};
-    std::atomic<int> closed_ {0};
-    std::atomic<int> wrongPasswords_ {0};
-    std::atomic<int> lockOuts_ {0};
+    std::atomic<int> opened_{0};
+    std::atomic<int> closed_{0};
+    std::atomic<int> wrongPasswords_{0};
+    std::atomic<int> lockOuts_{0};
 };
