@@ -76,9 +76,10 @@ std::optional<Pairs> split(std::string_view text)
         return std::nullopt;
     text.remove_prefix(prefix.size());
     Pairs pairs;
-    while (!text.empty()) {
+    for (bool more = true; more;) {
         const std::string_view pair = text.substr(0, text.find(','));
-        text.remove_prefix(std::min(text.size(), pair.size() + 1));
+        more = pair.size() < text.size();
+        text.remove_prefix(pair.size() + (more ? 1 : 0));
         const std::size_t equals = pair.find('=');
         if (equals == std::string_view::npos
             || !pairs.emplace(pair.substr(0, equals), pair.substr(equals + 1)).second)

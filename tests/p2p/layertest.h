@@ -10,17 +10,20 @@ class LayerTest : public QObject
 {
     Q_OBJECT
 
+protected:
+    // Leaves the layer without sessions.
+    static void closeSessions()
+    {
+        for (int id = 0; id < 1024; ++id)
+            IOTC_Session_Close(id);
+    }
+
 private slots:
     void initTestCase()
     {
         QCOMPARE(IOTC_Initialize2(0), 0);
         QCOMPARE(avInitialize(4096), 4096);
     }
-    // Every test leaves the layer without sessions.
-    void cleanup()
-    {
-        for (int id = 0; id < 1024; ++id)
-            IOTC_Session_Close(id);
-    }
+    void cleanup() { closeSessions(); }
     void cleanupTestCase() { QCOMPARE(IOTC_DeInitialize(), 0); }
 };
