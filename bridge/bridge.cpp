@@ -123,9 +123,7 @@ void Bridge::tickHeads()
     do {
         headMoves_ = false;
         moving = tickAll();
-        const auto next = Worker::Clock::now()
-            + (moving ? Worker::Clock::duration(moveInterval)
-                      : Worker::Clock::duration(restInterval));
+        const auto next = Worker::Clock::now() + (moving ? moveInterval : restInterval);
         ticker_.waitFor([this, moving] { return !moving && headMoves_; }, next);
     } while (!ticker_.stopping());
 }
@@ -161,6 +159,7 @@ std::string Bridge::obeyFault(const std::string& uid, const std::string& text)
     for (const auto& device : devices_) {
         if (device->uid() != uid)
             continue;
+        logEvent(LogLevel::Warning, uid, -1, "fault: " + text);
         device->fault(std::get<Fault>(fault));
         return "ok";
     }

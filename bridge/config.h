@@ -24,7 +24,7 @@ struct DeviceConfig
     std::string uid;
     std::string version;
     std::string type; // kept for people; shown in the status
-    std::string account = "admin";
+    std::string account = "Admin"; // what clients use whose user names none
     std::string password;
     std::vector<std::string> wifi; // names of networks
     std::string speechFile; // empty: speech is not kept

@@ -50,7 +50,8 @@ bool BridgeDevice::publish()
     if (!host_.publish(device, *this))
         return false;
     logEvent(LogLevel::Info, config_.uid, -1,
-        "published with " + std::to_string(device.channels) + " channels");
+        "published with " + std::to_string(device.channels) + " channels"
+            + (config_.faults.empty() ? "" : " and faults on demand"));
     // The rest of the configured faults counts already; these two need the host.
     for (const Fault& fault : config_.faults)
         if (fault.kind == Fault::Kind::Silent || fault.kind == Fault::Kind::Die)
@@ -66,7 +67,6 @@ void BridgeDevice::withdraw()
 
 void BridgeDevice::fault(const Fault& fault)
 {
-    logEvent(LogLevel::Warning, config_.uid, -1, "a fault is asked for");
     if (fault.kind == Fault::Kind::Die)
         ::_exit(diedExitCode);
     if (fault.kind == Fault::Kind::Silent)
@@ -94,7 +94,7 @@ void BridgeDevice::channelClosed(const LinkChannelPtr& link)
     const auto viewer = viewerOf(link);
     if (!viewer)
         return;
-    logEvent(LogLevel::Info, config_.uid, link->number(), "closed by " + link->peer());
+    logEvent(LogLevel::Info, config_.uid, link->number(), "closed, was open to " + link->peer());
     requests_.closed(*viewer);
     const std::lock_guard lock(mutex_);
     viewers_.erase(link.get());

@@ -466,7 +466,7 @@ std::variant<Request, BadRequest> decodeRequest(std::uint32_t type, std::string_
     if (bytes.size() < form->smallest || bytes.size() > form->largest)
         return bad(
             "message " + std::to_string(type) + " of wrong size " + std::to_string(bytes.size()));
-    const auto decoded = form->decode(bytes);
+    auto decoded = form->decode(bytes);
     if (const auto* reason = std::get_if<BadRequest>(&decoded))
         return bad("message " + std::to_string(type) + ": " + reason->reason);
     return decoded;

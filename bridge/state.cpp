@@ -106,7 +106,7 @@ std::string StateFile::prepare()
         return "another bridge uses it";
     if (!locked)
         return lastError();
-    const std::string problem = checkSchema();
+    std::string problem = checkSchema();
     if (!problem.empty()) {
         execute(database_.get(), "ROLLBACK");
         return problem;

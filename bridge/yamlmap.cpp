@@ -21,8 +21,8 @@ int lineOf(const YAML::Node& node)
     return std::max(node.Mark().line, 0) + 1;
 }
 
-YamlMap::YamlMap(YAML::Node node, const std::string& what, ConfigErrors& errors)
-    : node_(std::move(node))
+YamlMap::YamlMap(const YAML::Node& node, const std::string& what, ConfigErrors& errors)
+    : node_(node)
     , errors_(errors)
 {
     if (!node_.IsMap()) {

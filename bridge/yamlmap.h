@@ -28,7 +28,7 @@ class YamlMap
 {
 public:
     // Without a map there, `what` is an error and all keys are missing.
-    YamlMap(YAML::Node node, const std::string& what, ConfigErrors& errors);
+    YamlMap(const YAML::Node& node, const std::string& what, ConfigErrors& errors);
 
     bool has(const char* key) const;
     int line() const { return lineOf(node_); }

@@ -37,8 +37,8 @@ void checkFragment(const Fragment& fragment, std::string_view packet)
     REQUIRE(fragment.frameSize >= 1 && fragment.frameSize <= maxFrameBytes);
     REQUIRE(!fragment.payload.empty() && fragment.payload.size() <= fragment.frameSize);
     REQUIRE(fragment.info.size() == (fragment.index == 0 ? frameInfoBytes : 0));
-    REQUIRE(headerOf(fragment) + std::string(fragment.info) + std::string(fragment.payload)
-        == packet);
+    REQUIRE(
+        headerOf(fragment) + std::string(fragment.info) + std::string(fragment.payload) == packet);
 }
 
 // One medium's way from fragments to the client, watched.

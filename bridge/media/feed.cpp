@@ -102,7 +102,8 @@ private:
 
 } // namespace
 
-std::unique_ptr<Feed> Feed::create(const FeedSettings& settings, std::shared_ptr<SceneState> state)
+std::unique_ptr<Feed> Feed::create(
+    const FeedSettings& settings, const std::shared_ptr<SceneState>& state)
 {
     routeFfmpegLog();
     return std::make_unique<ChannelFeed>(settings, state);

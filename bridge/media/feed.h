@@ -44,7 +44,8 @@ struct SourceSettings
     VideoCodec codec = VideoCodec::H264;
     StampKind stamp = StampKind::Time;
     bool sound = true;
-    // Channels with the same text show one picture, drawn and encoded once; empty: its own.
+    // Channels with the same text and the same values above show one picture, drawn and encoded
+    // once: with the number and the scene state of the first of them. Empty: its own.
     std::string shared;
 
     // for rtsp: only
@@ -54,12 +55,14 @@ struct SourceSettings
 struct FeedSettings
 {
     std::string name; // "UID/channel", for the log
-    int channel = 0; // the number shown in the test picture
+    int channel = 0; // from 0 on; the test picture shows it counted from 1, as clients do
     SourceSettings main;
     std::shared_ptr<const SourceSettings> sub; // null: low quality is made from the main source
 };
 
-// Takes the frames of a feed. Called on the feed's threads; must not wait.
+// Takes the frames of a feed. Called on the feed's threads, pictures and sound at the same time,
+// but one picture and one sound frame after the other; must not wait. From within a call a sink may
+// watch, unwatch, listen and unlisten itself, no other sink.
 class FrameSink
 {
 public:
@@ -76,7 +79,7 @@ class Feed
 {
 public:
     static std::unique_ptr<Feed> create(
-        const FeedSettings& settings, std::shared_ptr<SceneState> state);
+        const FeedSettings& settings, const std::shared_ptr<SceneState>& state);
 
     Feed() = default;
     Feed(const Feed&) = delete;
@@ -87,7 +90,9 @@ public:
     // Pictures from a key frame on: the running group of pictures at once, on the calling thread,
     // then each frame as it comes. Watching again restarts, also at another quality.
     virtual void watch(const std::shared_ptr<FrameSink>& sink, Quality quality) = 0;
-    // No videoFrame() of this sink after the return.
+    // No videoFrame() of this sink after the return. Waits for one that runs on another thread:
+    // the caller must not hold a lock that the sink takes. The same goes for watch(), for
+    // unlisten() and listen(), and for the destructor.
     virtual void unwatch(const FrameSink* sink) = 0;
     // Sound: A-law 8 kHz mono in frames of 40 ms.
     virtual void listen(const std::shared_ptr<FrameSink>& sink) = 0;

@@ -18,11 +18,8 @@ std::unique_ptr<InputStream> InputStream::openFile(
         return nullptr;
     }
     FfmpegOptions options;
-    // A play list must not lead the program to other files or into the network.
+    // A play list must not lead the program into the network.
     options.set("protocol_whitelist", "file");
-    options.set("format_whitelist",
-        "mov,mp4,m4a,3gp,3g2,mj2,matroska,webm,avi,mpegts,mpeg,h264,hevc,"
-        "flv,asf,mjpeg,m4v,ogg,ivf,gif,mpegvideo,dv,nut,wtv,obu");
     std::unique_ptr<InputStream> stream(new InputStream(std::move(stopping)));
     return stream->open("file:" + path, options, error) ? std::move(stream) : nullptr;
 }

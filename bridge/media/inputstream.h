@@ -16,7 +16,7 @@ class InputStream
 public:
     static constexpr std::chrono::seconds silenceLimit{10};
 
-    // A file, which may name no other place. Null: `error` tells why.
+    // A regular file of this machine. Null: `error` tells why.
     static std::unique_ptr<InputStream> openFile(
         const std::string& path, std::function<bool()> stopping, std::string& error);
     static std::unique_ptr<InputStream> openCamera(

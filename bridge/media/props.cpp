@@ -38,16 +38,36 @@ Polygon ring(const Pose& pose, Vec3 low, Vec3 high, double up)
         pose(low.x, high.y, up)};
 }
 
-// The shadow of a box, pushed away from the sun by its height.
+// The convex outline of places on the ground.
+Polygon outline(Polygon places)
+{
+    std::sort(places.begin(), places.end(),
+        [](Vec3 a, Vec3 b) { return a.x != b.x ? a.x < b.x : a.y < b.y; });
+    Polygon hull;
+    const auto add = [&hull](Vec3 place, std::size_t keep) {
+        while (hull.size() >= keep + 2
+            && cross(hull.back() - hull[hull.size() - 2], place - hull.back()).z <= 0)
+            hull.pop_back();
+        hull.push_back(place);
+    };
+    for (const Vec3& place : places)
+        add(place, 0);
+    const std::size_t lower = hull.size() - 1;
+    for (auto place = places.rbegin() + 1; place != places.rend(); ++place)
+        add(*place, lower);
+    hull.pop_back();
+    return hull;
+}
+
+// The shadow of a box on the ground; a low sun would make it too long to look well.
 void shadeBox(Painter& painter, const Pose& pose, Vec3 low, Vec3 high)
 {
     const Vec3 sun = painter.light().sun;
-    const Vec3 push = Vec3{-sun.x, -sun.y, 0} * (0.6 * high.z / std::max(0.35, sun.z));
+    const Vec3 push = Vec3{-sun.x, -sun.y, 0} * (high.z / std::max(0.7, sun.z));
     Polygon ground = ring(pose, low, high, 0.01);
-    painter.shade(ground, 0.7);
-    for (Vec3& corner : ground)
-        corner = corner + push * 0.5;
-    painter.shade(ground, 0.7);
+    for (std::size_t i = 0; i < 4; ++i)
+        ground.push_back(ground[i] + push);
+    painter.shade(outline(ground));
 }
 
 void drawWheel(Painter& painter, const Pose& pose, double ahead, double left, double radius)

@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr std::chrono::seconds encoderRetry{30};
+constexpr std::chrono::seconds retryTime{30};
 
 SourceSettings withinLimits(SourceSettings settings)
 {
@@ -60,8 +60,10 @@ void TestSource::run()
         showWhileWatched();
 }
 
-std::unique_ptr<VideoEncoder> TestSource::openEncoder() const
+bool TestSource::openEncoder()
 {
+    if (encoder_)
+        return true;
     EncoderSettings wanted;
     wanted.codec = settings_.codec;
     wanted.width = settings_.width;
@@ -70,40 +72,49 @@ std::unique_ptr<VideoEncoder> TestSource::openEncoder() const
     wanted.kilobitsPerSecond = settings_.kilobitsPerSecond;
     wanted.keyInterval = settings_.keyInterval;
     std::string error;
-    auto encoder = VideoEncoder::open(wanted, error);
-    if (!encoder)
+    encoder_ = VideoEncoder::open(wanted, error);
+    if (!encoder_)
         logMedia(LogLevel::Error, name_, "test picture: " + error);
-    return encoder;
+    return encoder_ != nullptr;
 }
 
 void TestSource::showWhileWatched()
 {
-    const auto encoder = openEncoder();
-    if (!encoder) {
-        worker_.sleepUntil(Worker::Clock::now() + encoderRetry);
-        return;
-    }
+    if (!openEncoder() || !showPictures())
+        worker_.sleepUntil(Worker::Clock::now() + retryTime);
+    // libx265 3.5 loses some kilobytes with each encoder that is closed: the one of this source
+    // stays, which costs memory while nobody watches, but does not grow with each viewer.
+    if (settings_.codec == VideoCodec::H264)
+        encoder_.reset();
+}
+
+// False when pictures cannot be made.
+bool TestSource::showPictures()
+{
     TestPicture picture(settings_, channel_, state_);
     const int rate = settings_.framesPerSecond;
     const auto start = Worker::Clock::now();
     std::int64_t number = 0;
-    while (!video_.resetIfUnwatched() && show(picture, *encoder)) {
+    while (!video_.resetIfUnwatched()) {
+        if (!show(picture))
+            return false;
         const auto passed = std::chrono::nanoseconds(Worker::Clock::now() - start).count();
         number = std::max(number + 1, passed / 1'000'000 * rate / 1000);
         const auto due = start + dueAfter(number, rate);
         if (!worker_.waitFor([&] { return Worker::Clock::now() >= due; }, due))
-            return;
+            break;
     }
+    return true;
 }
 
-bool TestSource::show(TestPicture& picture, VideoEncoder& encoder)
+bool TestSource::show(TestPicture& picture)
 {
     const PictureMoment moment{
         std::chrono::steady_clock::now(), std::chrono::system_clock::now(), encoded_};
     AVFrame* drawn = picture.draw(moment);
     if (drawn == nullptr)
         return false;
-    const auto frame = encoder.encode(*drawn, video_.takeKeyWish());
+    const auto frame = encoder_->encode(*drawn, video_.takeKeyWish());
     ++encoded_;
     if (frame && !video_.publish(frame))
         logMedia(LogLevel::Warning, name_, "test picture: a frame was too large");

@@ -29,8 +29,9 @@ public:
 private:
     void run();
     void showWhileWatched();
-    bool show(TestPicture& picture, VideoEncoder& encoder);
-    std::unique_ptr<VideoEncoder> openEncoder() const;
+    bool showPictures();
+    bool show(TestPicture& picture);
+    bool openEncoder();
 
     const std::string name_;
     const int channel_;
@@ -40,6 +41,7 @@ private:
     FrameHub silence_{FrameHub::Kind::Audio, [] {}};
     BeepSource beep_;
     std::atomic<std::uint64_t> encoded_{0}; // also the frame number that is shown
+    std::unique_ptr<VideoEncoder> encoder_; // worker's thread only
     // After what their threads use, so that these end first.
     Worker worker_;
     LowQuality low_{video_};

@@ -15,10 +15,12 @@ int encoderThreads(const EncoderSettings& settings)
 
 std::string x265Parameters(const EncoderSettings& settings)
 {
-    const std::string threads = std::to_string(encoderThreads(settings));
-    return "repeat-headers=1:annexb=1:bframes=0:scenecut=0:open-gop=0:frame-threads=1:pools="
-        + threads + ":log-level=none:keyint=" + std::to_string(settings.keyInterval)
-        + ":min-keyint=" + std::to_string(settings.keyInterval);
+    const int threads = encoderThreads(settings);
+    const std::string pool = threads > 1 ? std::to_string(threads) : "none:wpp=0";
+    const std::string interval = std::to_string(settings.keyInterval);
+    return "repeat-headers=1:annexb=1:bframes=0:scenecut=0:open-gop=0:log-level=none"
+           ":frame-threads=1:pools="
+        + pool + ":keyint=" + interval + ":min-keyint=" + interval;
 }
 
 FfmpegOptions& fillOptions(FfmpegOptions& options, const EncoderSettings& settings)

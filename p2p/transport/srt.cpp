@@ -32,7 +32,8 @@ Windows windowsFor(SrtUse use)
     case SrtUse::FrameSender:
         return {static_cast<int>(senderPackets), 256};
     case SrtUse::FrameReceiver:
-        return {256, static_cast<int>(senderPackets)};
+        // 1.4 MiB on their way: 14 MiB a second over a round trip of 100 ms.
+        return {256, 1024};
     case SrtUse::Session:
         break;
     }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "transport/srt.h"
+#include "wire/assembler.h"
 #include "wire/keys.h"
 #include "wire/limits.h"
 #include "wire/sessionmessage.h"
@@ -10,6 +11,7 @@
 #include <QTest>
 
 #include <string>
+#include <vector>
 
 // A client without the layer, which can do what no layer does: its connections are bare SRT.
 class StrangeClient
@@ -46,6 +48,22 @@ public:
         return channel.connected();
     }
 
+    // What has come on the channel.
+    std::vector<AssembledFrame> readFrames()
+    {
+        std::vector<AssembledFrame> frames;
+        std::string buffer(packetBytes, '\0');
+        std::string_view bytes;
+        while (channel.receive(buffer.data(), bytes) == SrtSocket::Io::Done) {
+            const auto packet = decodePacket(bytes);
+            if (const auto* fragment = packet ? std::get_if<Fragment>(&*packet) : nullptr) {
+                for (AssembledFrame& frame : assembler_.take(*fragment))
+                    frames.push_back(std::move(frame));
+            }
+        }
+        return frames;
+    }
+
     // Waits until the connection exists or is refused, for three seconds at most.
     SrtSocket connect(StreamId::Kind kind, int number, const std::string& passphrase)
     {
@@ -71,5 +89,6 @@ private:
     const std::string uid_;
     const Address device_;
     SessionToken token_{};
+    Assembler assembler_;
     std::string key_;
 };

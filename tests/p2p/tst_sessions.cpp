@@ -79,8 +79,17 @@ private slots:
         const std::vector<std::pair<int, int>> expected{
             {IOTC_STATE_SEARCHING, 0}, {IOTC_STATE_FOUND, 0}, {IOTC_STATE_CONNECTED, id}};
         QCOMPARE(reports.all(), expected);
+    }
+
+    void aConnectedIdIsNotConnectedAgain()
+    {
+        TestDevice device(uid);
+        const int id = connectTo(uid);
+        Reports reports;
         QCOMPARE(IOTC_Connect_ByUID_ParallelNB(uid.c_str(), id, Reports::callback, &reports),
             int(IOTC_BAD_SESSION));
+        QCOMPARE(reports.final(), int(IOTC_BAD_SESSION));
+        QVERIFY(openChannel(id, 0) >= 0);
     }
 
     void aDeviceThatIsNotThereIsOffline()
@@ -338,6 +347,7 @@ private slots:
         const auto once = [&] {
             const int session = connectTo(uid);
             QVERIFY(openChannel(session, 0) >= 0);
+            QVERIFY(device.awaitChannel(0));
             bringUpAgain();
         };
         once();

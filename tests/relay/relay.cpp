@@ -58,7 +58,7 @@ private:
 
 sockaddr_in ipv4(in_addr address, std::uint16_t port)
 {
-    sockaddr_in result {};
+    sockaddr_in result{};
     result.sin_family = AF_INET;
     result.sin_addr = address;
     result.sin_port = htons(port);
@@ -97,7 +97,7 @@ struct Later
 
 struct Client
 {
-    sockaddr_in address {};
+    sockaddr_in address{};
     Descriptor towardTarget;
 };
 
@@ -106,7 +106,7 @@ class UdpRelay final : public Relay
 public:
     explicit UdpRelay(const RelaySettings& settings)
         : settings_(settings)
-        , links_ {RelayLink(settings.seed), RelayLink(settings.seed + 1)}
+        , links_{RelayLink(settings.seed), RelayLink(settings.seed + 1)}
         , conditions_(settings.conditions)
     {
     }
@@ -131,7 +131,7 @@ private:
 
     // Set once.
     const RelaySettings settings_;
-    sockaddr_in target_ {};
+    sockaddr_in target_{};
     std::uint16_t port_ = 0;
     Descriptor listener_;
     Descriptor wake_;
@@ -144,9 +144,9 @@ private:
     std::size_t bytesOnTheWay_ = 0;
     std::uint64_t order_ = 0;
     std::vector<pollfd> polled_;
-    std::array<char, maxDatagram> buffer_ {};
+    std::array<char, maxDatagram> buffer_{};
 
-    std::atomic<bool> stop_ {false};
+    std::atomic<bool> stop_{false};
     mutable std::mutex mutex_; // guards the next two
     RelayConditions conditions_;
     RelayStatistics statistics_;
@@ -156,7 +156,7 @@ private:
 
 bool UdpRelay::open(std::string& error)
 {
-    in_addr address {};
+    in_addr address{};
     if (::inet_pton(AF_INET, settings_.targetAddress.c_str(), &address) != 1
         || (ntohl(address.s_addr) >> 24) != 127 || settings_.targetPort == 0) {
         error = "the target is not an address and port on the loopback";
@@ -227,10 +227,10 @@ void UdpRelay::wait()
     for (const Client& client : clients_)
         polled_.push_back({client.towardTarget.get(), POLLIN, 0});
 
-    timespec left {};
+    timespec left{};
     if (!onTheWay_.empty()) {
-        const std::chrono::nanoseconds gap
-            = std::max(onTheWay_.top().due - Clock::now(), Clock::duration::zero());
+        const std::chrono::nanoseconds gap =
+            std::max(onTheWay_.top().due - Clock::now(), Clock::duration::zero());
         left.tv_sec = gap.count() / 1000000000;
         left.tv_nsec = gap.count() % 1000000000;
     }
@@ -240,7 +240,7 @@ void UdpRelay::wait()
 void UdpRelay::receiveFromClients()
 {
     for (int i = 0; i < batch; ++i) {
-        sockaddr_in from {};
+        sockaddr_in from{};
         socklen_t fromSize = sizeof from;
         const ssize_t size = ::recvfrom(listener_.get(), buffer_.data(), buffer_.size(), 0,
             reinterpret_cast<sockaddr*>(&from), &fromSize);
@@ -255,8 +255,8 @@ void UdpRelay::receiveFromClients()
 void UdpRelay::receiveFromTarget(std::size_t client)
 {
     for (int i = 0; i < batch; ++i) {
-        const ssize_t size = ::recv(
-            clients_[client].towardTarget.get(), buffer_.data(), buffer_.size(), 0);
+        const ssize_t size =
+            ::recv(clients_[client].towardTarget.get(), buffer_.data(), buffer_.size(), 0);
         if (size < 0)
             return;
         take(false, client, buffer_.data(), static_cast<std::size_t>(size));
@@ -266,15 +266,14 @@ void UdpRelay::receiveFromTarget(std::size_t client)
 // The number of the client at this address, which may be new. False when no socket is left.
 bool UdpRelay::clientOf(const sockaddr_in& address, std::size_t& client)
 {
-    const std::uint64_t key = std::uint64_t {address.sin_addr.s_addr} << 16 | address.sin_port;
+    const std::uint64_t key = std::uint64_t{address.sin_addr.s_addr} << 16 | address.sin_port;
     const auto known = clientByAddress_.find(key);
     if (known != clientByAddress_.end()) {
         client = known->second;
         return true;
     }
-    Client added {address, udpSocket()};
-    const bool ready
-        = ::connect(added.towardTarget.get(), generic(target_), sizeof target_) == 0;
+    Client added{address, udpSocket()};
+    const bool ready = ::connect(added.towardTarget.get(), generic(target_), sizeof target_) == 0;
     const std::lock_guard lock(mutex_);
     if (!ready) {
         ++statistics_.toTarget.refused;

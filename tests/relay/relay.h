@@ -15,7 +15,7 @@ struct RelaySettings
     std::uint16_t targetPort = 0;
     std::uint64_t seed = 1; // of all chances
     // Datagrams on their way, both directions together: a second of 500 Mb/s.
-    std::size_t capacityBytes = std::size_t {64} * 1024 * 1024;
+    std::size_t capacityBytes = std::size_t{64} * 1024 * 1024;
     RelayConditions conditions;
 };
 

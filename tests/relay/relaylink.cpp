@@ -8,8 +8,8 @@ RelayLink::RelayLink(std::uint64_t seed)
 {
 }
 
-std::variant<RelayDeparture, RelayFate> RelayLink::admit(const RelayConditions& conditions,
-    std::chrono::steady_clock::time_point now, std::size_t bytes)
+std::variant<RelayDeparture, RelayFate> RelayLink::admit(
+    const RelayConditions& conditions, std::chrono::steady_clock::time_point now, std::size_t bytes)
 {
     // Always three draws, so that a change of one condition leaves the other fates as they were.
     std::uniform_real_distribution<double> share(0, 1);
@@ -37,7 +37,7 @@ std::variant<RelayDeparture, RelayFate> RelayLink::admit(const RelayConditions& 
         swing * static_cast<double>(std::chrono::nanoseconds(conditions.jitter).count())));
     const auto due = std::max(sent, sent + conditions.delay + jitter);
     if (heldBack)
-        return RelayDeparture {std::max(due, lastDue_) + conditions.reorderBy, true};
+        return RelayDeparture{std::max(due, lastDue_) + conditions.reorderBy, true};
     lastDue_ = std::max(due, lastDue_);
-    return RelayDeparture {lastDue_, false};
+    return RelayDeparture{lastDue_, false};
 }

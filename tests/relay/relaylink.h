@@ -10,14 +10,14 @@
 // What a relay does to the datagrams of one direction; the same for both.
 struct RelayConditions
 {
-    std::chrono::microseconds delay {0}; // one way
-    std::chrono::microseconds jitter {0}; // the delay varies by up to this, either way; keeps order
+    std::chrono::microseconds delay{0}; // one way
+    std::chrono::microseconds jitter{0}; // the delay varies by up to this, either way; keeps order
     double loss = 0; // share of datagrams that vanish, 0 to 1
     double reorder = 0; // share of datagrams that are held back, so that later ones overtake
-    std::chrono::microseconds reorderBy {5000}; // for how long
+    std::chrono::microseconds reorderBy{5000}; // for how long
     std::int64_t bitsPerSecond = 0; // of payload; 0: no limit
     // How long a datagram may wait for the line; one that would wait longer is dropped.
-    std::chrono::microseconds queue {200000};
+    std::chrono::microseconds queue{200000};
     bool blackhole = false; // nothing passes
 };
 

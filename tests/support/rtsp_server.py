@@ -15,36 +15,43 @@ Needs python3-gi, gir1.2-gst-rtsp-server-1.0 and GStreamer's good and bad plug-i
 import argparse
 import pathlib
 import sys
+import threading
 
 import gi
 
 gi.require_version("Gst", "1.0")
-gi.require_version("GstPbutils", "1.0")
 gi.require_version("GstRtspServer", "1.0")
-from gi.repository import GLib, Gst, GstPbutils, GstRtspServer  # noqa: E402
+from gi.repository import GLib, Gst, GstRtspServer  # noqa: E402
 
 DEMUXERS = {".mp4": "qtdemux", ".mov": "qtdemux", ".mkv": "matroskademux"}
 # Parser and payloader by the type of a stream.
-PICTURES = {"video/x-h264": "h264parse ! rtph264pay", "video/x-h265": "h265parse ! rtph265pay"}
-SOUNDS = {"audio/mpeg": "aacparse ! rtpmp4gpay", "audio/x-alaw": "rtppcmapay",
-          "audio/x-mulaw": "rtppcmupay"}
+PAYLOADERS = {"video/x-h264": "h264parse ! rtph264pay", "video/x-h265": "h265parse ! rtph265pay",
+              "audio/mpeg": "aacparse ! rtpmp4gpay", "audio/x-alaw": "rtppcmapay",
+              "audio/x-mulaw": "rtppcmupay"}
 
 
-def kinds(streams):
-    return [stream.get_caps().get_structure(0).get_name() for stream in streams]
+def stream_types(source):
+    """The media types of a file's streams, by the names of the demuxer's pads."""
+    probe = Gst.parse_launch(source)
+    complete = threading.Event()
+    demuxer = probe.get_by_name("d")
+    demuxer.connect("no-more-pads", lambda _: complete.set())
+    probe.set_state(Gst.State.PAUSED)
+    if not complete.wait(10):
+        sys.exit("cannot read " + source)
+    types = {pad.get_name(): pad.get_current_caps().get_structure(0).get_name()
+             for pad in demuxer.srcpads}
+    probe.set_state(Gst.State.NULL)
+    return types
 
 
 def pipeline(path):
     """What GStreamer shall do with a file, in its own notation."""
-    about = GstPbutils.Discoverer.new(10 * Gst.SECOND).discover_uri(path.as_uri())
-    demuxer = DEMUXERS[path.suffix]
-    parts = [f'filesrc location="{path}" ! {demuxer} name=d']
-    pad = 0
-    for names, known in ((kinds(about.get_video_streams()), PICTURES),
-                         (kinds(about.get_audio_streams()), SOUNDS)):
-        for name in names[:1]:
-            parts.append(f"d. ! queue ! {known[name]} name=pay{pad} pt={96 + pad}")
-            pad += 1
+    source = f'filesrc location="{path}" ! {DEMUXERS[path.suffix]} name=d'
+    parts = [source]
+    for pad, media in stream_types(source).items():
+        number = len(parts) - 1
+        parts.append(f"d.{pad} ! queue ! {PAYLOADERS[media]} name=pay{number} pt={96 + number}")
     return "( " + " ".join(parts) + " )"
 
 

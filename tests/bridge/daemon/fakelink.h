@@ -146,15 +146,15 @@ public:
     void withdraw(const std::string& uid) override { withdrawn.push_back(uid); }
     void setPassword(const std::string&, const std::string& text) override
     {
-        const std::lock_guard lock(mutex);
-        password = text;
+        const std::lock_guard lock(mutex_);
+        password_ = text;
     }
     void setSilent(const std::string&, bool on) override { silent = on; }
 
     std::string lastPassword()
     {
-        const std::lock_guard lock(mutex);
-        return password;
+        const std::lock_guard lock(mutex_);
+        return password_;
     }
 
     bool accepts = true;
@@ -163,6 +163,6 @@ public:
     std::vector<std::string> withdrawn;
 
 private:
-    std::mutex mutex;
-    std::string password;
+    std::mutex mutex_;
+    std::string password_; // guarded by mutex_
 };

@@ -87,7 +87,7 @@ void TestConfig::smallestConfigurationHasDefaults()
     QVERIFY(read.controlSocket.empty());
     QCOMPARE(read.devices.size(), std::size_t{1});
     const DeviceConfig& device = read.devices[0];
-    QCOMPARE(device.account, std::string("admin"));
+    QCOMPARE(device.account, std::string("Admin"));
     QCOMPARE(device.password, std::string("secret"));
     QCOMPARE(device.channels.size(), std::size_t{1});
     QCOMPARE(device.channels[0].main.url, std::string("test:"));

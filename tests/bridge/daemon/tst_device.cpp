@@ -131,7 +131,7 @@ void TestDevice::restart()
 
 std::shared_ptr<FakeChannel> TestDevice::open(int channel, std::uint64_t session)
 {
-    const auto link = std::make_shared<FakeChannel>(channel, session);
+    auto link = std::make_shared<FakeChannel>(channel, session);
     device_->channelOpened(link);
     return link;
 }
@@ -164,7 +164,7 @@ void TestDevice::isPublishedAsConfigured()
     const LinkDevice& device = host_.published.back();
     QCOMPARE(device.uid, config_.uid);
     QCOMPARE(device.version, config_.version);
-    QCOMPARE(device.account, std::string("admin"));
+    QCOMPARE(device.account, std::string("Admin"));
     QCOMPARE(device.password, std::string("secret"));
     QCOMPARE(device.channels, 4);
     QCOMPARE(feeds_.size(), std::size_t{4});
@@ -480,7 +480,8 @@ void TestDevice::otherChannelThanTheMessagesOwnIsRefused()
     QCOMPARE(sent.isEmpty() ? QByteArray() : sent[0].second, answer);
     QVERIFY(!feeds_[0]->isWatched() && !feeds_[1]->isWatched());
     QVERIFY(!device_->tick());
-    for (const auto& channel : device_->status()["channels"]) {
+    const auto status = device_->status();
+    for (const auto& channel : status["channels"]) {
         QVERIFY(channel["quality"] == "high");
         QVERIFY(channel["recordMode"] == 0);
     }

@@ -68,7 +68,8 @@ bool SampleWriter::addVideo(const SampleFile& sample)
     video_->max_b_frames = sample.bFrames;
     video_->thread_count = 1;
     av_opt_set(video_->priv_data, "preset", "ultrafast", 0);
-    av_opt_set(video_->priv_data, "x265-params", "log-level=none:pools=1", 0);
+    av_opt_set(
+        video_->priv_data, "x265-params", "log-level=none:pools=none:wpp=0:frame-threads=1", 0);
     return addStream(*video_, 0);
 }
 

@@ -5,6 +5,7 @@
 
 #include "media/annexb.h"
 
+#include <QDebug>
 #include <QProcess>
 #include <QTcpServer>
 #include <QTcpSocket>
@@ -42,13 +43,14 @@ public:
 
     bool start(const QStringList& files, quint16 port = 0)
     {
-        process_.setProcessChannelMode(QProcess::SeparateChannels);
+        process_.setProcessChannelMode(QProcess::ForwardedErrorChannel);
         process_.start("/usr/bin/python3",
             QStringList{QStringLiteral(ORVA_RTSP_SERVER), "--port", QString::number(port)} + files);
-        if (!process_.waitForReadyRead(20000))
-            return false;
-        const QList<QByteArray> words = process_.readLine().trimmed().split(' ');
-        port_ = words.value(1).toUShort();
+        while (!process_.canReadLine() && process_.waitForReadyRead(20000)) { }
+        const QByteArray line = process_.readLine().trimmed();
+        port_ = line.mid(line.lastIndexOf(' ') + 1).toUShort();
+        if (port_ == 0)
+            qWarning() << "no camera server:" << line << process_.errorString();
         return port_ != 0;
     }
 

@@ -34,7 +34,8 @@ SharedFrame numbered(std::uint32_t number, bool key, std::size_t size = 4)
 {
     auto frame = std::make_shared<LinkFrame>();
     frame->bytes.resize(size);
-    std::memcpy(frame->bytes.data(), &number, std::min(size, sizeof number));
+    if (size >= sizeof number)
+        std::memcpy(frame->bytes.data(), &number, sizeof number);
     describe(*frame, LinkCodecH264, key, 0);
     return frame;
 }

@@ -22,6 +22,7 @@ private slots:
     void frameStampsCountByOne();
     void timeStampIsTheMonotonicClock();
     void secondViewerBeginsWithAKeyAndMissesNothing();
+    void restartBeginsWithAKey_data() { frameStampsCountByOne_data(); }
     void restartBeginsWithAKey();
     void sharedPicturesAreEncodedOnce();
     void sharedTextWithOtherSettingsIsAnotherPicture();
@@ -162,13 +163,19 @@ void TestTestSource::secondViewerBeginsWithAKeyAndMissesNothing()
 
 void TestTestSource::restartBeginsWithAKey()
 {
-    const auto feed = Feed::create(testFeed(), stateOf());
+    QFETCH(VideoCodec, codec);
+    FeedSettings settings = testFeed();
+    settings.main.codec = codec;
+    const auto feed = Feed::create(settings, stateOf());
     for (int round = 0; round < 3; ++round) {
         const auto sink = std::make_shared<RecordingSink>();
         feed->watch(sink, Quality::High);
         QTRY_VERIFY_WITH_TIMEOUT(sink->videoCount() >= 3, 20000);
         feed->unwatch(sink.get());
         QVERIFY(sink->video()[0]->key);
+        QVERIFY(countByOne(stampsOf(sink->video()), 500));
+        // Long enough for the source to see that nobody watches, so that it truly begins again.
+        QTest::qWait(120);
     }
 }
 

@@ -160,7 +160,7 @@ private slots:
         malformed("long token", start + session + "0" + number);
         for (const char* wrong : {"0g", "g0", "+1", "-1", " 1", "1 ", "0x", "::"})
             malformed(qPrintable(QStringLiteral("token with '%1'").arg(QLatin1String(wrong))),
-                start + ",s=" + wrong + tokenText.substr(2) + number);
+                std::string(start).append(",s=").append(wrong) + tokenText.substr(2) + number);
         for (const char* wrong :
             {"", "256", "-1", "+1", " 1", "1 ", "0x1", "1.0", "a", "99999999999999999999"})
             malformed(qPrintable(QStringLiteral("number '%1'").arg(QLatin1String(wrong))),
@@ -170,7 +170,7 @@ private slots:
         malformed("pair without a value", start + session + number + ",later");
         for (const char* twice : {",v=1", ",r=", ",t=channel", ",s=", ",c=1", ",later=1,later=1"})
             malformed(qPrintable(QStringLiteral("twice '%1'").arg(QLatin1String(twice))),
-                start + session + number + twice);
+                std::string(start).append(session).append(number) + twice);
     }
     void whatCannotBeReadNamesTheReason()
     {

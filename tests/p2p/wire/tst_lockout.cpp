@@ -1,0 +1,173 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "device/backlog.h"
+#include "device/lockout.h"
+#include "testmain.h"
+
+#include <QTest>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+const std::string guesser = "192.0.2.1";
+const Lockout::Clock::time_point start{1000h};
+
+// Wrong passwords at one moment; true when the last of them shuts the address out, and no other.
+bool lastLocks(Lockout& lockout, int count, Lockout::Clock::time_point now)
+{
+    for (int i = 1; i < count; ++i) {
+        if (lockout.wrongPassword(guesser, now))
+            return false;
+    }
+    return lockout.wrongPassword(guesser, now);
+}
+
+std::string addressOf(std::size_t number)
+{
+    return "address " + std::to_string(number);
+}
+
+} // namespace
+
+class TestLockout final : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void nineWrongPasswordsDoNotLock()
+    {
+        Lockout lockout;
+        QVERIFY(!lockout.isLocked(guesser, start));
+        QVERIFY(!lastLocks(lockout, 9, start));
+        QVERIFY(!lockout.isLocked(guesser, start));
+    }
+
+    void theTenthLocks()
+    {
+        Lockout lockout;
+        QVERIFY(lastLocks(lockout, 10, start));
+        QVERIFY(lockout.isLocked(guesser, start));
+    }
+
+    void theTenthLocksAtTheEndOfTheWindow()
+    {
+        Lockout lockout;
+        QVERIFY(!lastLocks(lockout, 9, start));
+        QVERIFY(lockout.wrongPassword(guesser, start + 60s));
+    }
+
+    void theTenthBehindTheWindowDoesNotLock()
+    {
+        Lockout lockout;
+        QVERIFY(!lastLocks(lockout, 9, start));
+        QVERIFY(!lockout.wrongPassword(guesser, start + 60s + 1ns));
+        QVERIFY(!lastLocks(lockout, 8, start + 61s));
+        QVERIFY(lockout.wrongPassword(guesser, start + 61s));
+    }
+
+    void windowSlides()
+    {
+        Lockout lockout;
+        for (int i = 0; i < 100; ++i)
+            QVERIFY(!lockout.wrongPassword(guesser, start + i * 7s));
+        // A quicker pace gets there once ten of them lie within the window.
+        bool locked = false;
+        for (int i = 0; i < 10 && !locked; ++i)
+            locked = lockout.wrongPassword(guesser, start + 700s + i * 6s);
+        QVERIFY(locked);
+    }
+
+    void lockEndsAfterAMinute()
+    {
+        Lockout lockout;
+        QVERIFY(lastLocks(lockout, 10, start));
+        QVERIFY(lockout.isLocked(guesser, start + 60s - 1ns));
+        QVERIFY(!lockout.isLocked(guesser, start + 60s));
+        QVERIFY(!lastLocks(lockout, 9, start + 60s));
+        QVERIFY(lockout.wrongPassword(guesser, start + 60s));
+    }
+
+    void addressesAreCountedApart()
+    {
+        Lockout lockout;
+        QVERIFY(!lastLocks(lockout, 9, start));
+        QVERIFY(!lockout.wrongPassword("192.0.2.2", start));
+        QVERIFY(lockout.wrongPassword(guesser, start));
+        QVERIFY(!lockout.isLocked("192.0.2.2", start));
+    }
+
+    void addressHeardOfLongestAgoIsForgotten_data()
+    {
+        QTest::addColumn<quint64>("others");
+        QTest::addColumn<bool>("remembered");
+        QTest::newRow("as many as there is room for") << quint64{Lockout::maxAddresses - 1} << true;
+        QTest::newRow("one more") << quint64{Lockout::maxAddresses} << false;
+    }
+    void addressHeardOfLongestAgoIsForgotten()
+    {
+        QFETCH(const quint64, others);
+        QFETCH(const bool, remembered);
+        Lockout lockout;
+        QVERIFY(!lastLocks(lockout, 9, start));
+        for (std::size_t i = 0; i < others; ++i)
+            QVERIFY(!lockout.wrongPassword(addressOf(i), start + 1s));
+        QCOMPARE(lockout.wrongPassword(guesser, start + 2s), remembered);
+    }
+
+    void knownAddressPushesNoOtherOut()
+    {
+        Lockout lockout;
+        QVERIFY(!lastLocks(lockout, 9, start));
+        for (std::size_t i = 1; i < Lockout::maxAddresses; ++i)
+            QVERIFY(!lockout.wrongPassword(addressOf(i), start + 1s));
+        QVERIFY(!lockout.wrongPassword(addressOf(1), start + 2s));
+        QVERIFY(lockout.wrongPassword(guesser, start + 2s));
+    }
+};
+
+class TestBacklog final : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void withoutUnconfirmedPacketsThereIsNone()
+    {
+        Backlog backlog;
+        QVERIFY(backlog.age(0, start) == 0s);
+        QVERIFY(backlog.age(5, start) == 0s);
+        backlog.sent(3, start);
+        QVERIFY(backlog.age(0, start + 1s) == 0s);
+    }
+
+    void oldestUnconfirmedPacketCounts()
+    {
+        Backlog backlog;
+        backlog.sent(10, start);
+        backlog.sent(5, start + 1s);
+        QVERIFY(backlog.age(15, start + 3s) == 3s);
+        QVERIFY(backlog.age(6, start + 3s) == 3s);
+        QVERIFY(backlog.age(5, start + 3s) == 2s);
+        QVERIFY(backlog.age(1, start + 4s) == 3s);
+        QVERIFY(backlog.age(0, start + 4s) == 0s);
+    }
+
+    void packetsSentAfterAllWereConfirmedCountFromThen()
+    {
+        Backlog backlog;
+        backlog.sent(10, start);
+        QVERIFY(backlog.age(0, start + 1s) == 0s);
+        backlog.sent(1, start + 5s);
+        QVERIFY(backlog.age(1, start + 6s) == 1s);
+    }
+
+    void moreUnconfirmedThanSentCountFromTheFirst()
+    {
+        Backlog backlog;
+        backlog.sent(1, start);
+        QVERIFY(backlog.age(100, start + 2s) == 2s);
+    }
+};
+
+ORVA_TEST(TestLockout)
+ORVA_TEST(TestBacklog)
+#include "tst_lockout.moc"
