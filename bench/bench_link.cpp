@@ -123,8 +123,8 @@ void idleRows(DeviceProcess& elsewhere, int threadsBefore)
     }
     const long client = (ownMemoryKiB() - clientBefore) / static_cast<long>(count);
     const long device = (elsewhere.memoryKiB() - deviceBefore) / static_cast<long>(count);
-    const auto bare = static_cast<double>(bareConnectionMemoryKiB());
     print("threads of the client's layer, 64 sessions", ownThreads() - threadsBefore, "", 16, 0);
+    const auto bare = static_cast<double>(bareConnectionMemoryKiB());
     print("memory of an idle session and channel, client", static_cast<double>(client), "KiB", 256,
         bare);
     print("  the same, device", static_cast<double>(device), "KiB", 256, bare);

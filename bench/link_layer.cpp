@@ -50,7 +50,7 @@ public:
 
     bool send(const Frame& frame) override
     {
-        return device_->sendVideo(benchFrame(frame)) == LinkChannel::Sent::Queued;
+        auto r=device_->sendVideo(benchFrame(frame)); static int n=0; if(r!=LinkChannel::Sent::Queued&&n++<5) fprintf(stderr,"DBG send %d\n",(int)r); return r == LinkChannel::Sent::Queued;
     }
     std::size_t receive(std::vector<char>& buffer) override
     {
@@ -59,7 +59,7 @@ public:
         unsigned int number = 0;
         const int size = avRecvFrameData2(avIndex_, buffer.data(), static_cast<int>(buffer.size()),
             nullptr, nullptr, info, sizeof info, nullptr, &number);
-        return size > 0 ? static_cast<std::size_t>(size) : 0;
+        static int n=0; if(size<0&&size!=AV_NOTHING_READY&&n++<5) fprintf(stderr,"DBG recv %d after %u\n",size,number); return size > 0 ? static_cast<std::size_t>(size) : 0;
     }
     void request() override { avSendIOCtrl(avIndex_, requestType, "please", 6); }
 

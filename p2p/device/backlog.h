@@ -14,22 +14,33 @@ class Backlog
 public:
     using Clock = std::chrono::steady_clock;
 
-    void sent(std::size_t packets, Clock::time_point now)
+    // `unconfirmed`: of all that was sent before.
+    void sent(std::size_t packets, std::size_t unconfirmed, Clock::time_point now)
     {
+        forget(unconfirmed);
         total_ += packets;
-        marks_.push_back({total_, now});
+        if (packets > 0)
+            marks_.push_back({total_, now});
     }
 
     // Of the oldest packet of the `unconfirmed` last ones; zero when there is none.
     Clock::duration age(std::size_t unconfirmed, Clock::time_point now)
     {
-        const std::uint64_t confirmed = total_ - std::min<std::uint64_t>(unconfirmed, total_);
-        while (!marks_.empty() && marks_.front().total <= confirmed)
-            marks_.pop_front();
+        forget(unconfirmed);
         return marks_.empty() ? Clock::duration::zero() : now - marks_.front().time;
     }
 
+    // What is remembered: never more than there are packets unconfirmed at a send, and one.
+    std::size_t marks() const { return marks_.size(); }
+
 private:
+    void forget(std::size_t unconfirmed)
+    {
+        const std::uint64_t confirmed = total_ - std::min<std::uint64_t>(unconfirmed, total_);
+        while (!marks_.empty() && marks_.front().total <= confirmed)
+            marks_.pop_front();
+    }
+
     struct Mark
     {
         std::uint64_t total; // packets sent up to here

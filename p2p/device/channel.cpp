@@ -75,10 +75,11 @@ Channel::Sent Channel::write(Media media, std::uint32_t number, const LinkFrame&
     const std::string_view info(
         reinterpret_cast<const char*>(frame.info.data()), frame.info.size());
     FragmentWriter writer(media, number, info, viewOf(frame.bytes));
+    const std::size_t unconfirmed = socket_.unconfirmed().first;
     std::size_t written = 0;
     while (!writer.done() && socket_.send(writer.next()) == SrtSocket::Io::Done)
         ++written;
-    backlog_.sent(written, Backlog::Clock::now());
+    backlog_.sent(written, unconfirmed, Backlog::Clock::now());
     return writer.done() && written == FragmentWriter::packetsFor(frame.bytes.size())
         ? Sent::Queued
         : Sent::Dropped;
@@ -124,17 +125,18 @@ bool Channel::flushOne()
 {
     if (!socket_ || silent_)
         return false;
+    const std::size_t unconfirmed = socket_.unconfirmed().first;
     if (ackToSend_) {
         if (socket_.send(encode(ControlAck{*ackToSend_})) != SrtSocket::Io::Done)
             return false;
-        backlog_.sent(1, Backlog::Clock::now());
+        backlog_.sent(1, unconfirmed, Backlog::Clock::now());
         ackToSend_.reset();
         return true;
     }
     if (controls_.empty() || controlSent_ - controlAcknowledged_ >= controlWindow
         || socket_.send(controls_.front()) != SrtSocket::Io::Done)
         return false;
-    backlog_.sent(1, Backlog::Clock::now());
+    backlog_.sent(1, unconfirmed, Backlog::Clock::now());
     controls_.pop_front();
     ++controlSent_;
     return true;

@@ -13,7 +13,7 @@ constexpr std::size_t maxSessions = 1024;
 
 bool isSound(const LinkDevice& device)
 {
-    return isUid(device.uid) && device.version.size() <= versionTextBytes && device.channels >= 1
+    return isUid(device.uid) && isVersionText(device.version) && device.channels >= 1
         && device.channels <= maxLiveChannels;
 }
 

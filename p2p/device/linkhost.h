@@ -85,7 +85,7 @@ public:
 struct LinkDevice
 {
     std::string uid; // 20 characters A-Z 0-9
-    std::string version; // the version text, at most 137 bytes
+    std::string version; // the version text, at most 137 bytes, no control characters
     std::string account;
     std::string password;
     int channels = 1; // 1 to 64

@@ -5,6 +5,8 @@
 
 #include <nlohmann/json.hpp>
 
+#include <arpa/inet.h>
+
 #include <charconv>
 #include <cstdlib>
 #include <filesystem>
@@ -17,6 +19,29 @@ namespace {
 using Json = nlohmann::json;
 namespace fs = std::filesystem;
 
+bool isHostName(std::string_view text)
+{
+    constexpr std::string_view letters =
+        "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789";
+    return !text.empty() && letters.find(text.front()) != std::string_view::npos
+        && text.find_first_not_of(std::string(letters) + ".-") == std::string_view::npos;
+}
+
+bool isV6Address(const std::string& text)
+{
+    in6_addr address{};
+    return text.find_first_not_of("0123456789abcdefABCDEF:.") == std::string::npos
+        && inet_pton(AF_INET6, text.c_str(), &address) == 1;
+}
+
+bool readPort(std::string_view text, std::uint16_t& port)
+{
+    constexpr std::size_t longest = 5;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), port);
+    return error == std::errc() && end == text.data() + text.size() && text.size() <= longest
+        && port != 0;
+}
+
 // "host:port" or "[v6 address]:port"
 std::optional<DeploymentLink::Endpoint> endpointOf(const std::string& text)
 {
@@ -25,11 +50,11 @@ std::optional<DeploymentLink::Endpoint> endpointOf(const std::string& text)
         return std::nullopt;
     DeploymentLink::Endpoint endpoint;
     endpoint.host = text.substr(0, colon);
-    if (endpoint.host.front() == '[' && endpoint.host.back() == ']')
+    const bool bracketed = endpoint.host.front() == '[' && endpoint.host.back() == ']';
+    if (bracketed)
         endpoint.host = endpoint.host.substr(1, endpoint.host.size() - 2);
-    const char* end = text.data() + text.size();
-    const auto read = std::from_chars(text.data() + colon + 1, end, endpoint.port);
-    if (read.ec != std::errc() || read.ptr != end || endpoint.port == 0)
+    const bool sound = bracketed ? isV6Address(endpoint.host) : isHostName(endpoint.host);
+    if (!sound || !readPort(std::string_view(text).substr(colon + 1), endpoint.port))
         return std::nullopt;
     return endpoint;
 }
@@ -54,14 +79,21 @@ bool readScope(const Json& scope, DeploymentLink& link)
     return scope == "loopback" || scope == "lan";
 }
 
+bool readPart(const Json& part, DeploymentLink& link)
+{
+    if (!part.is_object())
+        return false;
+    for (const auto& [key, value] : part.items()) {
+        if (key == "searchScope" ? !readScope(value, link)
+                                 : key != "addressBook" || !readBook(value, link))
+            return false;
+    }
+    return true;
+}
+
 bool read(const Json& root, DeploymentLink& link)
 {
-    if (!root.is_object() || !root.contains("link"))
-        return root.is_object();
-    const Json& part = root["link"];
-    return part.is_object()
-        && (!part.contains("searchScope") || readScope(part["searchScope"], link))
-        && (!part.contains("addressBook") || readBook(part["addressBook"], link));
+    return root.is_object() && (!root.contains("link") || readPart(root["link"], link));
 }
 
 std::vector<fs::path> folders()

@@ -53,8 +53,10 @@ bool tune(SRTSOCKET id, SrtUse use)
     const bool on = true;
     // The live sender starts at full speed, where the one for files feels its way for several round
     // trips; without time stamp delivery nothing is dropped, and no socket has a thread of its own.
+    // Where the receiver reports losses every now and then, the sender has no timer to repeat what
+    // got no answer: after a buffer was full once, nothing would ever come through again.
     return set(id, SRTO_TRANSTYPE, SRTT_LIVE) && set(id, SRTO_TSBPDMODE, off)
-        && set(id, SRTO_TLPKTDROP, off) && set(id, SRTO_NAKREPORT, on)
+        && set(id, SRTO_TLPKTDROP, off) && set(id, SRTO_NAKREPORT, off)
         && set(id, SRTO_PAYLOADSIZE, static_cast<int>(packetBytes)) && set(id, SRTO_MSS, mss)
         && set(id, SRTO_FC, windows.receive)
         && set(id, SRTO_RCVBUF, windows.receive * packetInBuffer)
@@ -270,10 +272,12 @@ bool SrtPoll::isLively()
 void SrtPoll::collect(std::chrono::milliseconds limit)
 {
     std::array<SRT_EPOLL_EVENT, 256> ready{};
-    const int count =
+    const int all =
         srt_epoll_uwait(id_, ready.data(), static_cast<int>(ready.size()), limit.count());
-    for (int i = 0; i < count; ++i) {
-        const SRT_EPOLL_EVENT& event = ready[static_cast<std::size_t>(i)];
+    // It counts also those that found no place; they come the next time.
+    const std::size_t count = std::min(ready.size(), static_cast<std::size_t>(std::max(all, 0)));
+    for (std::size_t i = 0; i < count; ++i) {
+        const SRT_EPOLL_EVENT& event = ready[i];
         events_.push_back({event.fd, (event.events & SRT_EPOLL_IN) != 0,
             (event.events & SRT_EPOLL_OUT) != 0, (event.events & SRT_EPOLL_ERR) != 0});
     }

@@ -40,15 +40,15 @@ std::optional<std::uint64_t> readOpening(ByteReader& reader, std::size_t size, s
     return reader.u64();
 }
 
-bool isPrintable(std::string_view text)
+} // namespace
+
+bool isVersionText(std::string_view text)
 {
-    return std::none_of(text.begin(), text.end(), [](char c) {
+    return text.size() <= versionTextBytes && std::none_of(text.begin(), text.end(), [](char c) {
         const auto byte = static_cast<unsigned char>(c);
         return byte < 0x20 || byte == 0x7f;
     });
 }
-
-} // namespace
 
 SearchDatagram encode(const SearchQuery& query)
 {
@@ -93,8 +93,7 @@ std::optional<SearchAnswer> decodeSearchAnswer(std::string_view datagram)
     answer.uid = reader.take(uidBytes);
     answer.port = reader.u16();
     answer.name = reader.take(std::min<std::size_t>(reader.u8(), versionTextBytes + 1));
-    if (!isUid(answer.uid) || answer.port == 0 || answer.name.size() > versionTextBytes
-        || !isPrintable(answer.name))
+    if (!isUid(answer.uid) || answer.port == 0 || !isVersionText(answer.name))
         return std::nullopt;
     return answer;
 }

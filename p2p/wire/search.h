@@ -27,6 +27,9 @@ struct SearchAnswer
     std::string name; // the version text, without control characters
 };
 
+// At most versionTextBytes, none of them a control character.
+bool isVersionText(std::string_view text);
+
 using SearchDatagram = std::array<char, searchDatagramBytes>;
 
 SearchDatagram encode(const SearchQuery& query);

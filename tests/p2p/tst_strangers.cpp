@@ -7,8 +7,6 @@
 #include "testmain.h"
 #include "wire/framing.h"
 
-#include <functional>
-#include <QElapsedTimer>
 
 namespace {
 
@@ -177,7 +175,7 @@ private slots:
                 numbers.push_back(frame.number);
             return numbers.size();
         };
-        QElapsedTimer ttt; ttt.start(); QTRY_COMPARE_WITH_TIMEOUT(readAll(), static_cast<std::size_t>(queued), 30000); qDebug() << ttt.elapsed();
+        QTRY_COMPARE_WITH_TIMEOUT(readAll(), static_cast<std::size_t>(queued), 30000);
         QCOMPARE(channel->sendVideo(pictureOf(10, false)), LinkChannel::Sent::Dropped);
         QCOMPARE(channel->sendVideo(pictureOf(20, true)), LinkChannel::Sent::Queued);
         QTRY_COMPARE(readAll(), static_cast<std::size_t>(queued) + 1);

@@ -97,9 +97,10 @@ DecodedPicture scaled(const DecodedPicture& picture, int width, int height)
     const int toStride[]{stride};
     sws_scale(scaler.get(), from, fromStride, 0, picture.height, to, toStride);
     DecodedPicture result{width, height, {}};
-    for (int y = 0; y < height; ++y)
-        result.luma.insert(
-            result.luma.end(), luma.begin() + y * stride, luma.begin() + y * stride + width);
+    for (int y = 0; y < height; ++y) {
+        const std::uint8_t* row = luma.data() + std::ptrdiff_t{stride} * y;
+        result.luma.insert(result.luma.end(), row, row + width);
+    }
     return result;
 }
 

@@ -38,7 +38,7 @@ private:
 
 namespace {
 
-constexpr std::uint32_t sampleFrames = 20;
+constexpr int sampleFrames = 20;
 
 SampleFile shortFile(AVCodecID video, AVCodecID audio = AV_CODEC_ID_NONE)
 {
@@ -84,7 +84,7 @@ void TestFiles::picturesArePassedOnOverTheSeam()
     QFETCH(int, codec);
     const QString path = sample(name, shortFile(static_cast<AVCodecID>(codec)));
     QVERIFY(!path.isEmpty());
-    const auto frames = watch(path, 2 * sampleFrames + 5);
+    const auto frames = watch(path, std::size_t{2} * sampleFrames + 5);
     const auto kind = codec == AV_CODEC_ID_HEVC ? VideoCodec::H265 : VideoCodec::H264;
     QVERIFY(frames.at(0)->key);
     for (const SharedFrame& frame : frames) {
@@ -101,10 +101,10 @@ void TestFiles::picturesThatRefAheadArePassedOnOverTheSeam()
 {
     SampleFile file = shortFile(AV_CODEC_ID_H264);
     file.bFrames = 2;
-    const auto frames = watch(sample("ahead.mp4", file), 2 * sampleFrames + 5);
+    const auto frames = watch(sample("ahead.mp4", file), std::size_t{2} * sampleFrames + 5);
     auto stamps = stampsOf(frames);
     // The last pictures may wait for one that was not watched any more.
-    stamps.resize(2 * sampleFrames);
+    stamps.resize(std::size_t{2} * sampleFrames);
     QVERIFY(countByOne(stamps, sampleFrames));
 }
 
@@ -120,7 +120,7 @@ void TestFiles::otherCodecsAreReencodedOverTheSeam()
     QFETCH(int, codec);
     const QString path = sample("other.avi", shortFile(static_cast<AVCodecID>(codec)));
     QVERIFY(!path.isEmpty());
-    const auto frames = watch(path, 2 * sampleFrames + 5);
+    const auto frames = watch(path, std::size_t{2} * sampleFrames + 5);
     QVERIFY(frames.at(0)->key);
     QCOMPARE(codecOf(*frames[0]), int(LinkCodecH264));
     const auto stamps = stampsOf(frames);
@@ -132,7 +132,7 @@ void TestFiles::framesComeAtTheFilesPace()
 {
     const QString path = sample("pace.mp4", shortFile(AV_CODEC_ID_H264));
     const auto began = std::chrono::steady_clock::now();
-    const auto frames = watch(path, 3 * sampleFrames + 1);
+    const auto frames = watch(path, std::size_t{3} * sampleFrames + 1);
     QVERIFY(std::chrono::steady_clock::now() - began >= std::chrono::milliseconds(3 * 800 - 50));
 }
 

@@ -114,15 +114,16 @@ void TestStamp::rowsThatContradictGiveNothing()
     const FramePtr picture = stamped(240, 120, 0x123456);
     DecodedPicture seen = copyLuma(*picture);
     QCOMPARE(stampOf(seen), std::optional<std::uint32_t>(0x123456));
-    std::copy_n(seen.luma.begin(), 240 * 10, seen.luma.begin() + 240 * 10);
+    constexpr std::ptrdiff_t row = 240 * std::ptrdiff_t{10};
+    std::copy_n(seen.luma.begin(), row, seen.luma.begin() + row);
     QCOMPARE(stampOf(seen), std::optional<std::uint32_t>());
 }
 
 void TestStamp::picturesWithoutStampGiveNothing()
 {
-    const std::vector<std::uint8_t> grey(640 * 360, 126);
+    const std::vector<std::uint8_t> grey(std::size_t{640} * 360, 126);
     QVERIFY(!readStamp(grey.data(), 640, 640, 360));
-    const std::vector<std::uint8_t> white(640 * 360, 235);
+    const std::vector<std::uint8_t> white(std::size_t{640} * 360, 235);
     QVERIFY(!readStamp(white.data(), 640, 640, 360));
     QVERIFY(!readStamp(white.data(), 640, 47, 360));
     QVERIFY(!readStamp(white.data(), 640, 640, 23));

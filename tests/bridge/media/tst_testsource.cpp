@@ -75,9 +75,10 @@ double brightness(const DecodedPicture& picture)
 
 DecodedPicture mirrored(DecodedPicture picture)
 {
-    for (int y = 0; y < picture.height; ++y)
-        std::reverse(picture.luma.begin() + y * picture.width,
-            picture.luma.begin() + (y + 1) * picture.width);
+    for (int y = 0; y < picture.height; ++y) {
+        std::uint8_t* row = picture.luma.data() + std::ptrdiff_t{picture.width} * y;
+        std::reverse(row, row + picture.width);
+    }
     return picture;
 }
 
@@ -338,7 +339,7 @@ void TestTestSource::beepComesOnceASecond()
         QCOMPARE(frame->info[2], std::uint8_t{0});
         loud += static_cast<int>(
             std::count_if(frame->bytes.begin(), frame->bytes.end(), [](std::uint8_t byte) {
-                return (byte & 0x7f) != (0xd5 & 0x7f) && (byte & 0x7f) != (0x55 & 0x7f);
+                return (byte & 0x7f) != 0x55; // above the level nearest to silence
             }));
     }
     // Three whole seconds hold three beeps of 120 ms, wherever they begin.
@@ -367,6 +368,7 @@ void TestTestSource::watchersComeAndGoFromManyThreads()
     const auto feed = Feed::create(testFeed(), stateOf());
     std::atomic<int> bad{0};
     std::vector<std::thread> viewers;
+    viewers.reserve(4);
     for (int viewer = 0; viewer < 4; ++viewer) {
         viewers.emplace_back([&, viewer] {
             for (int round = 0; round < 12; ++round) {

@@ -12,14 +12,14 @@ namespace {
 const std::string guesser = "192.0.2.1";
 const Lockout::Clock::time_point start{1000h};
 
-// Wrong passwords at one moment; true when the last of them shuts the address out, and no other.
-bool lastLocks(Lockout& lockout, int count, Lockout::Clock::time_point now)
+// Wrong passwords at one moment, up to the one that shuts the address out: which one, or 0.
+int lockingTry(Lockout& lockout, int count, Lockout::Clock::time_point now)
 {
-    for (int i = 1; i < count; ++i) {
+    for (int i = 1; i <= count; ++i) {
         if (lockout.wrongPassword(guesser, now))
-            return false;
+            return i;
     }
-    return lockout.wrongPassword(guesser, now);
+    return 0;
 }
 
 std::string addressOf(std::size_t number)
@@ -38,30 +38,30 @@ private slots:
     {
         Lockout lockout;
         QVERIFY(!lockout.isLocked(guesser, start));
-        QVERIFY(!lastLocks(lockout, 9, start));
+        QCOMPARE(lockingTry(lockout, 9, start), 0);
         QVERIFY(!lockout.isLocked(guesser, start));
     }
 
     void theTenthLocks()
     {
         Lockout lockout;
-        QVERIFY(lastLocks(lockout, 10, start));
+        QCOMPARE(lockingTry(lockout, 10, start), 10);
         QVERIFY(lockout.isLocked(guesser, start));
     }
 
     void theTenthLocksAtTheEndOfTheWindow()
     {
         Lockout lockout;
-        QVERIFY(!lastLocks(lockout, 9, start));
+        QCOMPARE(lockingTry(lockout, 9, start), 0);
         QVERIFY(lockout.wrongPassword(guesser, start + 60s));
     }
 
     void theTenthBehindTheWindowDoesNotLock()
     {
         Lockout lockout;
-        QVERIFY(!lastLocks(lockout, 9, start));
+        QCOMPARE(lockingTry(lockout, 9, start), 0);
         QVERIFY(!lockout.wrongPassword(guesser, start + 60s + 1ns));
-        QVERIFY(!lastLocks(lockout, 8, start + 61s));
+        QCOMPARE(lockingTry(lockout, 8, start + 61s), 0);
         QVERIFY(lockout.wrongPassword(guesser, start + 61s));
     }
 
@@ -80,17 +80,17 @@ private slots:
     void lockEndsAfterAMinute()
     {
         Lockout lockout;
-        QVERIFY(lastLocks(lockout, 10, start));
+        QCOMPARE(lockingTry(lockout, 10, start), 10);
         QVERIFY(lockout.isLocked(guesser, start + 60s - 1ns));
         QVERIFY(!lockout.isLocked(guesser, start + 60s));
-        QVERIFY(!lastLocks(lockout, 9, start + 60s));
+        QCOMPARE(lockingTry(lockout, 9, start + 60s), 0);
         QVERIFY(lockout.wrongPassword(guesser, start + 60s));
     }
 
     void addressesAreCountedApart()
     {
         Lockout lockout;
-        QVERIFY(!lastLocks(lockout, 9, start));
+        QCOMPARE(lockingTry(lockout, 9, start), 0);
         QVERIFY(!lockout.wrongPassword("192.0.2.2", start));
         QVERIFY(lockout.wrongPassword(guesser, start));
         QVERIFY(!lockout.isLocked("192.0.2.2", start));
@@ -108,7 +108,7 @@ private slots:
         QFETCH(const quint64, others);
         QFETCH(const bool, remembered);
         Lockout lockout;
-        QVERIFY(!lastLocks(lockout, 9, start));
+        QCOMPARE(lockingTry(lockout, 9, start), 0);
         for (std::size_t i = 0; i < others; ++i)
             QVERIFY(!lockout.wrongPassword(addressOf(i), start + 1s));
         QCOMPARE(lockout.wrongPassword(guesser, start + 2s), remembered);
@@ -117,7 +117,7 @@ private slots:
     void knownAddressPushesNoOtherOut()
     {
         Lockout lockout;
-        QVERIFY(!lastLocks(lockout, 9, start));
+        QCOMPARE(lockingTry(lockout, 9, start), 0);
         for (std::size_t i = 1; i < Lockout::maxAddresses; ++i)
             QVERIFY(!lockout.wrongPassword(addressOf(i), start + 1s));
         QVERIFY(!lockout.wrongPassword(addressOf(1), start + 2s));
@@ -135,15 +135,15 @@ private slots:
         Backlog backlog;
         QVERIFY(backlog.age(0, start) == 0s);
         QVERIFY(backlog.age(5, start) == 0s);
-        backlog.sent(3, start);
+        backlog.sent(3, 0, start);
         QVERIFY(backlog.age(0, start + 1s) == 0s);
     }
 
     void oldestUnconfirmedPacketCounts()
     {
         Backlog backlog;
-        backlog.sent(10, start);
-        backlog.sent(5, start + 1s);
+        backlog.sent(10, 0, start);
+        backlog.sent(5, 10, start + 1s);
         QVERIFY(backlog.age(15, start + 3s) == 3s);
         QVERIFY(backlog.age(6, start + 3s) == 3s);
         QVERIFY(backlog.age(5, start + 3s) == 2s);
@@ -154,16 +154,27 @@ private slots:
     void packetsSentAfterAllWereConfirmedCountFromThen()
     {
         Backlog backlog;
-        backlog.sent(10, start);
+        backlog.sent(10, 0, start);
         QVERIFY(backlog.age(0, start + 1s) == 0s);
-        backlog.sent(1, start + 5s);
+        backlog.sent(1, 0, start + 5s);
         QVERIFY(backlog.age(1, start + 6s) == 1s);
+    }
+
+    // A channel that only carries messages is never asked for an age.
+    void whatIsConfirmedIsForgottenBySendingAlone()
+    {
+        Backlog backlog;
+        for (int i = 0; i < 1000; ++i)
+            backlog.sent(1, 0, start + std::chrono::seconds(i));
+        QCOMPARE(backlog.marks(), std::size_t{1});
+        backlog.sent(0, 1, start + 1000s);
+        QCOMPARE(backlog.marks(), std::size_t{1});
     }
 
     void moreUnconfirmedThanSentCountFromTheFirst()
     {
         Backlog backlog;
-        backlog.sent(1, start);
+        backlog.sent(1, 0, start);
         QVERIFY(backlog.age(100, start + 2s) == 2s);
     }
 };
