@@ -163,8 +163,8 @@ int main()
     {
         LayerCandidate layer(*host, directUid, relayedUid);
         Candidates both{layer, *bare};
-        throughputRow(both, 10 * 1024);
-        throughputRow(both, 100 * 1024);
+        throughputRow(both, 10240);
+        throughputRow(both, 102400);
         delayRow(both);
         RelayConditions conditions;
         conditions.delay = 25ms;

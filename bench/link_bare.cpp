@@ -67,6 +67,13 @@ Socket messageSocket()
     return socket;
 }
 
+bool sendMessage(SRTSOCKET socket, const Frame& frame)
+{
+    return srt_sendmsg(socket, reinterpret_cast<const char*>(frame.data()),
+               static_cast<int>(frame.size()), -1, 1)
+        > 0;
+}
+
 class BarePipe final : public LinkPipe
 {
 public:
@@ -76,8 +83,7 @@ public:
         , answering_([id = device_.id(), &answer] {
             char request[16];
             while (srt_recvmsg(id, request, sizeof request) > 0)
-                srt_sendmsg(id, reinterpret_cast<const char*>(answer.data()),
-                    static_cast<int>(answer.size()), -1, 1);
+                sendMessage(id, answer);
         })
     {
         client_.set(SRTO_RCVSYN, false);
@@ -88,12 +94,8 @@ public:
         answering_.join();
     }
 
-    bool send(const Frame& frame) override
-    {
-        return srt_sendmsg(device_.id(), reinterpret_cast<const char*>(frame.data()),
-                   static_cast<int>(frame.size()), -1, 1)
-            > 0;
-    }
+    void prepare(const Frame& frame) override { frame_ = frame; }
+    bool send() override { return sendMessage(device_.id(), frame_); }
     std::size_t receive(std::vector<char>& buffer) override
     {
         buffer.resize(maxMessage);
@@ -105,6 +107,7 @@ public:
 private:
     Socket device_;
     Socket client_;
+    Frame frame_;
     std::thread answering_;
 };
 
@@ -135,7 +138,7 @@ public:
         }
         return pipes;
     }
-    void setAnswer(Frame frame) override { answer_ = std::move(frame); }
+    void setAnswer(const Frame& frame) override { answer_ = frame; }
 
 private:
     Socket listener_;

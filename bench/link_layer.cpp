@@ -48,10 +48,8 @@ public:
     }
     ~LayerPipe() override { avClientStop(avIndex_); }
 
-    bool send(const Frame& frame) override
-    {
-        auto r=device_->sendVideo(benchFrame(frame)); static int n=0; if(r!=LinkChannel::Sent::Queued&&n++<5) fprintf(stderr,"DBG send %d\n",(int)r); return r == LinkChannel::Sent::Queued;
-    }
+    void prepare(const Frame& frame) override { frame_ = benchFrame(frame); }
+    bool send() override { return device_->sendVideo(frame_) == LinkChannel::Sent::Queued; }
     std::size_t receive(std::vector<char>& buffer) override
     {
         buffer.resize(LinkFrame::maxBytes);
@@ -59,7 +57,7 @@ public:
         unsigned int number = 0;
         const int size = avRecvFrameData2(avIndex_, buffer.data(), static_cast<int>(buffer.size()),
             nullptr, nullptr, info, sizeof info, nullptr, &number);
-        static int n=0; if(size<0&&size!=AV_NOTHING_READY&&n++<5) fprintf(stderr,"DBG recv %d after %u\n",size,number); return size > 0 ? static_cast<std::size_t>(size) : 0;
+        return size > 0 ? static_cast<std::size_t>(size) : 0;
     }
     void request() override { avSendIOCtrl(avIndex_, requestType, "please", 6); }
 
@@ -67,6 +65,7 @@ private:
     const std::shared_ptr<BenchSession> session_;
     const LinkChannelPtr device_;
     const int avIndex_;
+    LinkFrame frame_;
 };
 
 } // namespace
@@ -123,7 +122,7 @@ LinkDevice BenchDevice::device(const std::string& uid)
     return device;
 }
 
-void BenchDevice::setAnswer(Frame frame)
+void BenchDevice::setAnswer(const Frame& frame)
 {
     const std::lock_guard lock(mutex_);
     answer_ = benchFrame(frame);
@@ -184,8 +183,8 @@ LinkPipes LayerCandidate::open(int count, bool throughRelay)
     return pipes;
 }
 
-void LayerCandidate::setAnswer(Frame frame)
+void LayerCandidate::setAnswer(const Frame& frame)
 {
     direct_.setAnswer(frame);
-    relayed_.setAnswer(std::move(frame));
+    relayed_.setAnswer(frame);
 }

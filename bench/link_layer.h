@@ -53,7 +53,7 @@ class BenchDevice final : public LinkDeviceHandler
 public:
     static LinkDevice device(const std::string& uid);
 
-    void setAnswer(Frame frame);
+    void setAnswer(const Frame& frame);
     // Null when the channel has not opened within 5 s.
     LinkChannelPtr awaitChannel(int number);
 
@@ -79,7 +79,7 @@ public:
     LayerCandidate(LinkHost& host, const std::string& direct, const std::string& relayed);
 
     LinkPipes open(int count, bool throughRelay) override;
-    void setAnswer(Frame frame) override;
+    void setAnswer(const Frame& frame) override;
 
 private:
     const std::string directUid_;

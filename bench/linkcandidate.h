@@ -21,8 +21,10 @@ public:
     LinkPipe& operator=(const LinkPipe&) = delete;
     virtual ~LinkPipe() = default;
 
+    // Device's end: makes `frame` the one that send() sends from now on.
+    virtual void prepare(const Frame& frame) = 0;
     // Device's end. False when the frame was not taken.
-    virtual bool send(const Frame& frame) = 0;
+    virtual bool send() = 0;
     // Client's end; never waits. The frame's size, whose bytes lie in `buffer`; 0: none is ready.
     virtual std::size_t receive(std::vector<char>& buffer) = 0;
     // Client's end: asks for the frame that the candidate answers with. May block a round trip.
@@ -43,7 +45,7 @@ public:
     // that fails.
     virtual LinkPipes open(int count, bool throughRelay) = 0;
     // What a request is answered with. Set while none is under way.
-    virtual void setAnswer(Frame frame) = 0;
+    virtual void setAnswer(const Frame& frame) = 0;
 };
 
 // Bare libsrt: file transmission type, a message for each frame, one connection for each channel,

@@ -30,14 +30,20 @@ public:
         return marks_.empty() ? Clock::duration::zero() : now - marks_.front().time;
     }
 
+    // Packets that were sent and are confirmed.
+    std::uint64_t confirmed(std::size_t unconfirmed) const
+    {
+        return total_ - std::min<std::uint64_t>(unconfirmed, total_);
+    }
+
     // What is remembered: never more than there are packets unconfirmed at a send, and one.
     std::size_t marks() const { return marks_.size(); }
 
 private:
     void forget(std::size_t unconfirmed)
     {
-        const std::uint64_t confirmed = total_ - std::min<std::uint64_t>(unconfirmed, total_);
-        while (!marks_.empty() && marks_.front().total <= confirmed)
+        const std::uint64_t upTo = confirmed(unconfirmed);
+        while (!marks_.empty() && marks_.front().total <= upTo)
             marks_.pop_front();
     }
 

@@ -220,6 +220,22 @@ void Channel::setSilent(bool silent)
     flush();
 }
 
+void Channel::pace()
+{
+    const std::lock_guard lock(mutex_);
+    if (!socket_)
+        return;
+    const auto [sent, repeated] = socket_.takeSent();
+    const std::uint64_t confirmed = backlog_.confirmed(socket_.unconfirmed().first);
+    const auto arrived = static_cast<std::int64_t>(confirmed - confirmed_);
+    confirmed_ = confirmed;
+    const std::int64_t before = pacer_.limit();
+    const std::int64_t limit =
+        pacer_.next({sent, repeated, arrived * static_cast<std::int64_t>(packetBytes)});
+    if (limit != before)
+        socket_.limitRate(limit);
+}
+
 void Channel::shut()
 {
     const std::lock_guard lock(mutex_);

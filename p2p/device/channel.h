@@ -3,6 +3,7 @@
 
 #include "device/backlog.h"
 #include "device/linkhost.h"
+#include "device/pacer.h"
 #include "transport/srt.h"
 #include "wire/framing.h"
 
@@ -61,6 +62,8 @@ public:
     // False for a message that was never sent.
     bool acknowledged(std::uint32_t sequence);
     void setSilent(bool silent);
+    // Once a second: fits the rate to the line.
+    void pace();
     // Nothing is sent after the return, and the socket is closed.
     void shut();
 
@@ -88,6 +91,8 @@ private:
     std::uint32_t videoNumber_ = 0;
     std::uint32_t audioNumber_ = 0;
     Backlog backlog_;
+    Pacer pacer_;
+    std::uint64_t confirmed_ = 0; // packets, at the last pace()
     std::deque<std::string> controls_; // encoded, not sent; at most maxWaitingControls
     std::uint32_t controlNumber_ = 0; // of the last one encoded
     std::uint32_t controlSent_ = 0;

@@ -213,6 +213,8 @@ void Host::keepAlive()
         } else if (now - session.told >= aliveInterval) {
             session.told = now;
             session.socket.send(encode(Alive{}));
+            for (const auto& [socket, channel] : session.channels)
+                channel->pace();
         }
     }
     for (const std::uint64_t id : dead)

@@ -125,6 +125,8 @@ void Layer::end()
 int Layer::reserveSession()
 {
     const Lock lock(mutex_);
+    if (stopping_)
+        return IOTC_NOT_INITIALIZED;
     int id = 0;
     for (const auto& [taken, session] : sessions_) {
         if (taken != id)
@@ -202,6 +204,8 @@ void Layer::forget(const SrtSocket& socket)
 int Layer::startSearch(std::chrono::milliseconds wait, std::chrono::milliseconds interval)
 {
     const Lock lock(mutex_);
+    if (stopping_)
+        return IOTC_NOT_INITIALIZED;
     if (search_)
         return IOTC_SEARCH_RUNNING;
     NetworkSearch search;

@@ -24,6 +24,8 @@ std::shared_ptr<AvChannel> Layer::channel(int avIndex)
 int Layer::reserve(const ChannelPtr& channel, int& avIndex)
 {
     const Lock lock(mutex_);
+    if (stopping_)
+        return AV_NOT_INITIALIZED;
     if (const int state = stateOf(channel->session()); state < 0)
         return state;
     avIndex = 0;

@@ -45,6 +45,9 @@ int Layer::refusalOf(const char* uid, int id, IOTC_ConnectCallback callback)
 int Layer::connect(const char* uid, int id, IOTC_ConnectCallback callback, void* userData)
 {
     const Lock lock(mutex_);
+    // Going down makes the last reports; nobody would make this one.
+    if (stopping_)
+        return IOTC_NOT_INITIALIZED;
     const int refusal = refusalOf(uid, id, callback);
     Attempt attempt;
     attempt.callback = callback;

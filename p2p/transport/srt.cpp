@@ -212,6 +212,20 @@ std::pair<std::size_t, std::size_t> SrtSocket::unconfirmed() const
     return {packets, bytes};
 }
 
+std::pair<std::int64_t, std::int64_t> SrtSocket::takeSent() const
+{
+    constexpr int startAnew = 1;
+    SRT_TRACEBSTATS figures{};
+    if (srt_bstats(id_, &figures, startAnew) != 0)
+        return {};
+    return {figures.pktSent, figures.pktRetrans};
+}
+
+void SrtSocket::limitRate(std::int64_t rate) const
+{
+    set(id_, SRTO_MAXBW, rate);
+}
+
 SrtPoll::SrtPoll()
     : id_(srt_epoll_create())
 {

@@ -102,6 +102,11 @@ public:
     // Packets that are sent and not confirmed, and their bytes.
     std::pair<std::size_t, std::size_t> unconfirmed() const;
 
+    // Packets sent since the last call, and how many of them were repeated.
+    std::pair<std::int64_t, std::int64_t> takeSent() const;
+    // Bytes per second; -1 for no limit.
+    void limitRate(std::int64_t rate) const;
+
 private:
     SRTSOCKET id_ = SRT_INVALID_SOCK;
 };

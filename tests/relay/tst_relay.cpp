@@ -9,6 +9,7 @@
 #include <cstring>
 #include <memory>
 #include <sys/socket.h>
+#include <tuple>
 #include <unistd.h>
 #include <vector>
 
@@ -25,7 +26,7 @@ public:
         : fd_(::socket(AF_INET, SOCK_DGRAM | SOCK_CLOEXEC, 0))
     {
         sockaddr_in own = at(0);
-        ::bind(fd_, reinterpret_cast<sockaddr*>(&own), sizeof own);
+        std::ignore = ::bind(fd_, reinterpret_cast<sockaddr*>(&own), sizeof own);
         const timeval patience{5, 0};
         ::setsockopt(fd_, SOL_SOCKET, SO_RCVTIMEO, &patience, sizeof patience);
         const int buffer = 4 * 1024 * 1024;

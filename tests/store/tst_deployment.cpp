@@ -58,7 +58,7 @@ const char* const full = R"({
     "brand": 150,
     "link": {
         "searchScope": "loopback",
-        "addressBook": { "ABCDEFGHIJ0123456789": "127.0.0.1:32100" }
+        "addressBook": { "ABCDEFGHIJ0123456789": "127.0.0.1:20721" }
     }
 })";
 
@@ -116,7 +116,7 @@ void TestDeployment::everyKeyIsRead()
     QVERIFY(deployment.searchScope == Deployment::SearchScope::Loopback);
     QCOMPARE(deployment.addressBook.size(), 1);
     QCOMPARE(deployment.addressBook.value(uid).host, QString("127.0.0.1"));
-    QCOMPARE(deployment.addressBook.value(uid).port, quint16(32100));
+    QCOMPARE(deployment.addressBook.value(uid).port, quint16(20721));
     QVERIFY(read(R"({"link":{"searchScope":"lan"}})").searchScope == Deployment::SearchScope::Lan);
 }
 
@@ -163,12 +163,12 @@ void TestDeployment::endpointsAreRead_data()
                                << "cam-1.yard.example.com" << 65535;
     QTest::newRow("name of digits") << "1:80"
                                     << "1" << 80;
-    QTest::newRow("IPv4") << "192.168.1.20:32100"
-                          << "192.168.1.20" << 32100;
-    QTest::newRow("IPv6") << "[2001:db8::1]:32100"
-                          << "2001:db8::1" << 32100;
-    QTest::newRow("IPv6 loopback") << "[::1]:32100"
-                                   << "::1" << 32100;
+    QTest::newRow("IPv4") << "192.168.1.20:20721"
+                          << "192.168.1.20" << 20721;
+    QTest::newRow("IPv6") << "[2001:db8::1]:20721"
+                          << "2001:db8::1" << 20721;
+    QTest::newRow("IPv6 loopback") << "[::1]:20721"
+                                   << "::1" << 20721;
     QTest::newRow("IPv6 with IPv4") << "[::ffff:10.0.0.1]:99"
                                     << "::ffff:10.0.0.1" << 99;
 }

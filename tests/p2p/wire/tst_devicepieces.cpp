@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "device/backlog.h"
 #include "device/lockout.h"
+#include "device/pacer.h"
 #include "testmain.h"
 
 #include <QTest>
@@ -179,6 +180,46 @@ private slots:
     }
 };
 
+class TestPacer final : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void aWideLineHasNoLimit()
+    {
+        Pacer pacer;
+        QCOMPARE(pacer.next({1000, 0, 1000000}), Pacer::unlimited);
+        QCOMPARE(pacer.next({1000, 333, 1000000}), Pacer::unlimited); // losses come by chance, too
+        QCOMPARE(pacer.next({49, 48, 1000}), Pacer::unlimited); // too few to judge
+        QCOMPARE(pacer.next({0, 0, 0}), Pacer::unlimited);
+    }
+
+    void aNarrowLineLimitsToALittleMoreThanArrived()
+    {
+        Pacer pacer;
+        QCOMPARE(pacer.next({1000, 334, 400000}), 500000);
+        QCOMPARE(pacer.limit(), 500000);
+    }
+
+    void theLimitGrowsWhileAllIsWellUntilItIsNoneAgain()
+    {
+        Pacer pacer;
+        pacer.next({1000, 500, 400000});
+        QCOMPARE(pacer.next({1000, 0, 400000}), 550000);
+        int seconds = 1;
+        while (pacer.next({1000, 0, 400000}) != Pacer::unlimited && seconds < 1000)
+            ++seconds;
+        QVERIFY(seconds > 20 && seconds < 60);
+    }
+
+    void whoGetsNothingThroughKeepsALittle()
+    {
+        Pacer pacer;
+        QCOMPARE(pacer.next({1000, 900, 0}), 16 * 1024);
+    }
+};
+
 ORVA_TEST(TestLockout)
+ORVA_TEST(TestPacer)
 ORVA_TEST(TestBacklog)
-#include "tst_lockout.moc"
+#include "tst_devicepieces.moc"

@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "device/pacer.h"
+
+#include <algorithm>
+
+namespace {
+
+// A line that loses three packets in a hundred makes one in eight be sent twice; one that is too
+// narrow, more than half.
+constexpr std::int64_t judgeFrom = 50; // packets
+constexpr std::int64_t crowded = 3; // one packet in this many was repeated
+
+constexpr std::int64_t lowest = 16 * 1024; // bytes per second: a picture now and then
+constexpr std::int64_t wide = 16 * 1024 * 1024; // no need to hold back any more
+
+} // namespace
+
+std::int64_t Pacer::next(const Figures& figures)
+{
+    if (figures.packetsSent >= judgeFrom && figures.packetsRepeated > figures.packetsSent / crowded)
+        limit_ = std::max(lowest, figures.bytesConfirmed + figures.bytesConfirmed / 4);
+    else if (limit_ != unlimited)
+        limit_ += limit_ / 10;
+    if (limit_ > wide)
+        limit_ = unlimited;
+    return limit_;
+}
