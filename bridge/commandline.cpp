@@ -18,6 +18,7 @@ Exit codes:
   3  wrong configuration
   4  cannot bind the port or the control socket
   5  the state file cannot be used
+ 70  the fault "die" has been asked for
 )";
 
 namespace {

@@ -50,8 +50,8 @@ std::string settleUrl(std::string& url, const Reading& reading)
 
 void readSize(YamlMap& map, SourceSettings& source)
 {
-    map.number("width", source.width, 64, 7680);
-    map.number("height", source.height, 64, 4320);
+    map.number("width", source.width, 64, 3840);
+    map.number("height", source.height, 64, 2160);
     if (source.width % 2 != 0 || source.height % 2 != 0)
         map.error("width", "a picture's width and height must be even");
 }
@@ -60,9 +60,9 @@ void readTestKeys(YamlMap& map, SourceSettings& source)
 {
     map.choice("scene", source.scene, {{"street", 0}, {"gate", 1}, {"yard", 2}, {"corridor", 3}});
     readSize(map, source);
-    map.number("rate", source.framesPerSecond, 1, 120);
+    map.number("rate", source.framesPerSecond, 1, 60);
     map.number("bitrate", source.kilobitsPerSecond, 16, 100000);
-    map.number("key-interval", source.keyInterval, 1, 1000);
+    map.number("key-interval", source.keyInterval, 1, 250);
     map.choice("codec", source.codec, {{"h264", VideoCodec::H264}, {"h265", VideoCodec::H265}});
     map.choice("stamp", source.stamp,
         {{"time", StampKind::Time}, {"frame", StampKind::Frame}, {"off", StampKind::Off}});

@@ -6,7 +6,9 @@
 
 void Viewer::videoFrame(const std::shared_ptr<const LinkFrame>& frame)
 {
-    if (!faults_.dropsPicture(++pictures_))
+    if (faults_.dropsPicture(++pictures_))
+        link_->loseVideo();
+    else
         link_->sendVideo(*frame);
 }
 

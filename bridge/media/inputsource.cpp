@@ -153,5 +153,6 @@ bool InputSource::nextRound(InputStream& input)
     if (audioPass_)
         audioPass_->restart();
     timeline_.nextRound();
+    delivered_ = false;
     return true;
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "lowquality.h"
 
+#include "log.h"
+
 namespace {
 
 constexpr int lowWidth = 640;
@@ -33,6 +35,7 @@ void LowQuality::run()
         convertWhileWatched(*queue);
         full_.remove(watcher);
         reencoder_.reset();
+        codec_ = 0;
     }
 }
 
@@ -58,13 +61,15 @@ void LowQuality::convert(const LinkFrame& frame, bool encode)
 
 bool LowQuality::prepare(const LinkFrame& frame)
 {
-    if (reencoder_ && codec_ == codecOf(frame))
-        return true;
+    if (codec_ == codecOf(frame))
+        return reencoder_ != nullptr;
     codec_ = codecOf(frame);
     AVCodecParameters coded{};
     coded.codec_type = AVMEDIA_TYPE_VIDEO;
     coded.codec_id = codec_ == LinkCodecH265 ? AV_CODEC_ID_HEVC : AV_CODEC_ID_H264;
     std::string error;
     reencoder_ = Reencoder::open(coded, {lowWidth, lowKilobits, full_.framesPerSecond}, error);
+    if (!reencoder_)
+        logEvent(LogLevel::Warning, {}, -1, "no low quality: " + error);
     return reencoder_ != nullptr;
 }

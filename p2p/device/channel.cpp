@@ -213,6 +213,12 @@ void Channel::sendRaw(std::string_view datagram)
         socket_.send(datagram);
 }
 
+void Channel::loseVideo()
+{
+    const std::lock_guard lock(mutex_);
+    ++videoNumber_;
+}
+
 void Channel::setSilent(bool silent)
 {
     const std::lock_guard lock(mutex_);

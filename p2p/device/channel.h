@@ -51,6 +51,7 @@ public:
     void close() override;
     void closeSession() override;
     void sendRaw(std::string_view datagram) override;
+    void loseVideo() override;
 
     // The rest is the event thread's.
 

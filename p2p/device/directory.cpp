@@ -5,11 +5,15 @@
 #include "wire/limits.h"
 #include "wire/uid.h"
 
+#include <algorithm>
+#include <cstddef>
 #include <utility>
 
 namespace {
 
 constexpr std::size_t maxSessions = 1024;
+// Whoever takes all that one address can get leaves others room.
+constexpr std::ptrdiff_t maxSessionsOfAddress = 512;
 
 bool isSound(const LinkDevice& device)
 {
@@ -55,7 +59,7 @@ void Directory::setPassword(const std::string& uid, const std::string& password)
     std::string key = accountPassphrase(uid, account, password, salt, keyRounds);
     lock.lock();
     const auto still = devices_.find(uid);
-    if (still == devices_.end() || key.empty())
+    if (still == devices_.end() || still->second.hello.salt != salt || key.empty())
         return;
     still->second.device.password = password;
     still->second.accountKey = std::move(key);
@@ -80,39 +84,57 @@ std::variant<std::string, Refusal> Directory::decide(const StreamId& id, const s
         return Refusal::LockedOut;
     switch (id.kind) {
     case StreamId::Kind::Session:
-        if (sessions_.size() >= maxSessions)
-            return Refusal::Full;
-        if (sessions_.count(id.token) != 0)
-            return Refusal::Malformed;
-        return device.sessionKey;
+        return decideSession(id, device, ip);
     case StreamId::Kind::Channel:
-        return decideChannel(id, device);
+        return decideChannel(id, device, ip);
     case StreamId::Kind::Speech:
-        return decideSpeech(id, device);
+        return decideSpeech(id, ip);
     }
     return Refusal::Malformed;
 }
 
-std::variant<std::string, Refusal> Directory::decideChannel(
-    const StreamId& id, const Published& device)
+std::variant<std::string, Refusal> Directory::decideSession(
+    const StreamId& id, const Published& device, const std::string& ip)
 {
-    const auto session = sessions_.find(id.token);
-    if (session == sessions_.end() || session->second.uid != id.uid)
+    const auto fromThere = std::count_if(sessions_.begin(), sessions_.end(),
+        [&](const auto& entry) { return entry.second.ip == ip; });
+    if (sessions_.size() >= maxSessions || fromThere >= maxSessionsOfAddress)
+        return Refusal::Full;
+    if (sessions_.count(id.token) != 0)
+        return Refusal::Malformed;
+    return device.sessionKey;
+}
+
+// Null also for a session of another device or another client.
+Directory::Session* Directory::sessionOf(const StreamId& id, const std::string& ip)
+{
+    const auto found = sessions_.find(id.token);
+    const bool same =
+        found != sessions_.end() && found->second.uid == id.uid && found->second.ip == ip;
+    return same ? &found->second : nullptr;
+}
+
+std::variant<std::string, Refusal> Directory::decideChannel(
+    const StreamId& id, const Published& device, const std::string& ip)
+{
+    Session* session = sessionOf(id, ip);
+    if (session == nullptr)
         return Refusal::UnknownSession;
-    if (id.number >= device.device.channels && session->second.offered.count(id.number) == 0)
+    if (id.number >= device.device.channels && session->offered.count(id.number) == 0)
         return Refusal::NoSuchChannel;
+    session->askedKey = device.accountKey;
     return device.accountKey;
 }
 
 std::variant<std::string, Refusal> Directory::decideSpeech(
-    const StreamId& id, const Published& device)
+    const StreamId& id, const std::string& ip)
 {
-    const auto session = sessions_.find(id.token);
-    if (session == sessions_.end() || session->second.uid != id.uid)
+    const Session* session = sessionOf(id, ip);
+    if (session == nullptr)
         return Refusal::UnknownSession;
-    if (session->second.speech != int{id.number})
+    if (session->speech != int{id.number} || session->openKey.empty())
         return Refusal::NoSuchChannel;
-    return device.accountKey;
+    return session->openKey;
 }
 
 std::vector<SearchAnswer> Directory::answersTo(const SearchQuery& query, std::uint16_t port)
@@ -155,14 +177,24 @@ bool Directory::wrongPassword(const std::string& uid, const std::string& ip)
         && found->second.lockout.wrongPassword(ip, Lockout::Clock::now());
 }
 
-bool Directory::openSession(const SessionToken& token, const std::string& uid)
+bool Directory::openSession(
+    const SessionToken& token, const std::string& uid, const std::string& ip)
 {
     const std::lock_guard lock(mutex_);
     if (devices_.count(uid) == 0 || sessions_.size() >= maxSessions)
         return false;
     Session session;
     session.uid = uid;
+    session.ip = ip;
     return sessions_.emplace(token, std::move(session)).second;
+}
+
+void Directory::channelOpened(const SessionToken& token)
+{
+    const std::lock_guard lock(mutex_);
+    const auto found = sessions_.find(token);
+    if (found != sessions_.end())
+        found->second.openKey = found->second.askedKey;
 }
 
 void Directory::closeSession(const SessionToken& token)

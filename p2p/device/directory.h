@@ -38,7 +38,9 @@ public:
     bool wrongPassword(const std::string& uid, const std::string& ip);
 
     // False when the device is gone or there are too many sessions.
-    bool openSession(const SessionToken& token, const std::string& uid);
+    bool openSession(const SessionToken& token, const std::string& uid, const std::string& ip);
+    // One of its channels has been let in: from now on the session's speech has the same key.
+    void channelOpened(const SessionToken& token);
     void closeSession(const SessionToken& token);
     int offerChannel(const SessionToken& token);
     void takeBackChannel(const SessionToken& token, int number);
@@ -58,12 +60,19 @@ private:
     struct Session
     {
         std::string uid;
+        std::string ip;
+        std::string askedKey; // of the channel that was asked for last
+        std::string openKey; // of the channel that was opened last
         std::set<int> offered;
         std::optional<int> speech;
     };
 
-    std::variant<std::string, Refusal> decideChannel(const StreamId& id, const Published& device);
-    std::variant<std::string, Refusal> decideSpeech(const StreamId& id, const Published& device);
+    std::variant<std::string, Refusal> decideSession(
+        const StreamId& id, const Published& device, const std::string& ip);
+    std::variant<std::string, Refusal> decideChannel(
+        const StreamId& id, const Published& device, const std::string& ip);
+    std::variant<std::string, Refusal> decideSpeech(const StreamId& id, const std::string& ip);
+    Session* sessionOf(const StreamId& id, const std::string& ip);
 
     std::mutex mutex_;
     std::map<std::string, Published> devices_; // by UID

@@ -6,6 +6,7 @@
 
 #include <array>
 #include <future>
+#include <system_error>
 #include <utility>
 
 namespace {
@@ -27,7 +28,12 @@ bool Host::start(const LinkHostSettings& settings, std::string& error)
         return false;
     }
     poll_.add(listener_.id(), false);
-    thread_ = std::thread([this] { run(); });
+    try {
+        thread_ = std::thread([this] { run(); });
+    } catch (const std::system_error&) {
+        error = "the system gives no thread";
+        return false;
+    }
     return true;
 }
 
@@ -75,7 +81,8 @@ void Host::withdraw(const std::string& uid)
         directory_.withdraw(uid);
     };
     if (std::this_thread::get_id() == thread_.get_id()) {
-        end();
+        // The handler that calls is inside one of these sessions.
+        later(end);
         return;
     }
     std::promise<void> done;
@@ -103,7 +110,7 @@ void Host::endChannel(SRTSOCKET channel)
     later([this, channel] {
         Session* session = sessionOf(channel);
         if (session != nullptr && session->channels.count(channel) != 0)
-            closeChannel(*session, session->channels[channel]);
+            closeChannel(*session, session->channels[channel], Number::GoesBack);
     });
 }
 
@@ -221,13 +228,14 @@ void Host::keepAlive()
         closeSession(id);
 }
 
-void Host::closeChannel(Session& session, const std::shared_ptr<Channel>& held)
+void Host::closeChannel(Session& session, const std::shared_ptr<Channel>& held, Number number)
 {
     const std::shared_ptr<Channel> channel = held; // `held` may be what is erased
     poll_.remove(channel->id());
     owners_.erase(channel->id());
     session.channels.erase(channel->id());
-    directory_.takeBackChannel(session.token, channel->number());
+    if (number == Number::GoesBack)
+        directory_.takeBackChannel(session.token, channel->number());
     if (session.speech && session.speech->listener == channel)
         closeSpeech(session);
     channel->shut();
@@ -254,7 +262,7 @@ void Host::closeSession(std::uint64_t id)
         return;
     Session& session = found->second;
     while (!session.channels.empty())
-        closeChannel(session, session.channels.begin()->second);
+        closeChannel(session, session.channels.begin()->second, Number::GoesBack);
     closeSpeech(session);
     poll_.remove(session.socket.id());
     owners_.erase(session.socket.id());

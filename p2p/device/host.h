@@ -78,7 +78,8 @@ private:
     bool handle(Session& session, std::string_view message);
     bool handle(const std::shared_ptr<Channel>& channel, std::string_view packet);
     void keepAlive();
-    void closeChannel(Session& session, const std::shared_ptr<Channel>& channel);
+    enum class Number { GoesBack, StaysOpen };
+    void closeChannel(Session& session, const std::shared_ptr<Channel>& channel, Number number);
     void closeSpeech(Session& session);
     void closeSession(std::uint64_t id);
     void closeSessionsOf(const std::string& uid);

@@ -62,9 +62,11 @@ int Host::admit(
             == 0
         && srt_setsockflag(socket, SRTO_ENFORCEDENCRYPTION, &enforced, sizeof enforced) == 0;
     wipe(passphrase);
+    if (!ready)
+        return -1;
     const std::lock_guard lock(host.callersMutex_);
     host.callers_[socket] = {std::get<StreamId>(id).uid, *address};
-    return ready ? 0 : -1;
+    return 0;
 }
 
 // A wrong key shows in the state of the connection, which may be over before it is accepted. SRT is
@@ -111,6 +113,8 @@ void Host::dispatch(const SrtPoll::Event& event)
 
 void Host::acceptAll()
 {
+    // Before accept() closes those whose key is wrong.
+    checkCallers();
     while (auto socket = listener_.accept())
         accept(std::move(*socket));
 }
@@ -138,7 +142,7 @@ void Host::acceptSession(SrtSocket socket, const StreamId& id, const Address& pe
 {
     Handler* handler = directory_.handlerOf(id.uid);
     if (handler == nullptr || !handler->admit(peer.text())
-        || !directory_.openSession(id.token, id.uid))
+        || !directory_.openSession(id.token, id.uid, peer.ip()))
         return;
     Session session;
     session.id = ++lastSession_;
@@ -162,7 +166,8 @@ void Host::acceptChannel(SrtSocket socket, const StreamId& id, const Address& pe
 {
     Session* session = sessionWith(id.token);
     Handler* handler = directory_.handlerOf(id.uid);
-    if (session == nullptr || handler == nullptr)
+    // The session may be another one by now than the one that the connection was let in for.
+    if (session == nullptr || handler == nullptr || session->uid != id.uid)
         return;
     if (id.kind == StreamId::Kind::Speech) {
         acceptSpeech(std::move(socket), *session, id);
@@ -171,10 +176,11 @@ void Host::acceptChannel(SrtSocket socket, const StreamId& id, const Address& pe
     // A client that starts a channel again may be faster than the end of the old connection.
     for (const auto& [name, old] : session->channels) {
         if (old->number() == id.number) {
-            closeChannel(*session, old);
+            closeChannel(*session, old, Number::StaysOpen);
             break;
         }
     }
+    directory_.channelOpened(id.token);
     auto channel = std::make_shared<Channel>(
         weak_from_this(), std::move(socket), id.number, session->id, peer.text());
     session->channels.emplace(channel->id(), channel);
@@ -239,7 +245,7 @@ void Host::readChannel(Session& session, const std::shared_ptr<Channel>& held)
         if (io == SrtSocket::Io::Later)
             return;
         if (io == SrtSocket::Io::Broken) {
-            closeChannel(session, channel);
+            closeChannel(session, channel, Number::GoesBack);
             return;
         }
         if (i == 0)

@@ -52,17 +52,21 @@ public:
     virtual int offerChannel() = 0;
     virtual void takeBackChannel(int number) = 0;
 
+    // What the client has not confirmed yet is lost.
     virtual void close() = 0;
     virtual void closeSession() = 0;
 
     // For trials of a client's defences: one datagram of the channel, as it stands.
     virtual void sendRaw(std::string_view datagram) = 0;
+    // The same: as if the next picture had been lost on the way.
+    virtual void loseVideo() = 0;
 };
 
 using LinkChannelPtr = std::shared_ptr<LinkChannel>;
 
-// What a program does with its device's clients. All calls come from the host's one event thread
-// and must not wait: the answers of all devices of the host come from it.
+// What a program does with its device's clients. All calls come from the host's one event thread,
+// the last ones from whoever ends the host, and must not wait: the answers of all devices of the
+// host come from it.
 class LinkDeviceHandler
 {
 public:
@@ -73,7 +77,8 @@ public:
     virtual void channelOpened(const LinkChannelPtr& channel) = 0;
     // Once for each channelOpened().
     virtual void channelClosed(const LinkChannelPtr& channel) = 0;
-    // One message, 1 to 1024 bytes. False leaves it untaken: the client's send goes on waiting.
+    // One message, 1 to 1024 bytes. False leaves it untaken: the client's send goes on waiting,
+    // until the client gives it up or a later message is taken.
     virtual bool controlReceived(
         const LinkChannelPtr& channel, std::uint32_t type, std::string_view bytes) = 0;
     // One sound frame on the speech channel that `channel` joined.
@@ -116,7 +121,8 @@ public:
     // From now on the device is found and can be connected to. `handler` must outlive the device's
     // publication. False for a UID or another field out of form, or a UID that is published here.
     virtual bool publish(const LinkDevice& device, LinkDeviceHandler& handler) = 0;
-    // Ends its sessions; its handler is not called after the return (not from the handler itself).
+    // Ends its sessions; its handler is not called after the return. From within a handler it is
+    // done after the return.
     virtual void withdraw(const std::string& uid) = 0;
     // Counts from the next channel on that a client opens.
     virtual void setPassword(const std::string& uid, const std::string& password) = 0;

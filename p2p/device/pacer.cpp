@@ -17,10 +17,14 @@ constexpr std::int64_t wide = 16 * 1024 * 1024; // no need to hold back any more
 
 std::int64_t Pacer::next(const Figures& figures)
 {
-    if (figures.packetsSent >= judgeFrom && figures.packetsRepeated > figures.packetsSent / crowded)
-        limit_ = std::max(lowest, figures.bytesConfirmed + figures.bytesConfirmed / 4);
+    const std::int64_t arrived = figures.bytesConfirmed;
+    carried_ = std::max(arrived, carried_ - carried_ / 20);
+    // A second in which nothing came through was an outage, and says nothing of the line's width.
+    if (figures.packetsSent >= judgeFrom && figures.packetsRepeated > figures.packetsSent / crowded
+        && arrived > 0)
+        limit_ = std::max(lowest, arrived + arrived / 4);
     else if (limit_ != unlimited)
-        limit_ += limit_ / 10;
+        limit_ += limit_ < carried_ ? limit_ : limit_ / 10;
     if (limit_ > wide)
         limit_ = unlimited;
     return limit_;

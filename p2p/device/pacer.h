@@ -6,7 +6,7 @@
 // Holds a sender back to what a narrow line carries. SRT's live sender hands each frame out at once;
 // a line whose queue is shorter than a frame then loses most of it, and most of what is repeated.
 // So when much had to be repeated, the rate is brought down to a little more than what arrived, and
-// goes up again slowly while all is well. One thread at a time.
+// goes up again while all is well: fast to what the line carried before, slowly beyond. One thread at a time.
 class Pacer
 {
 public:
@@ -26,4 +26,5 @@ public:
 
 private:
     std::int64_t limit_ = unlimited;
+    std::int64_t carried_ = 0; // the most that came through in a second, lately
 };

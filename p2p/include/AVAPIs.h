@@ -13,10 +13,10 @@
  * Failure: a negative number of enum AV_Result, whose texts are in the client's error catalogue.
  *
  * Every function that takes an AV index can return, besides what it lists itself: -20010 for an
- * index that is not open, -20016 once the device is gone, -20019. A call that is inside the
- * library when its channel ends returns within 100 ms: -20015 after IOTC_Session_Close, -20016
- * when the device is gone, -20017 after avServStop, -20018 after avClientStop, -20026 after
- * IOTC_DeInitialize.
+ * index that is not open, -20016 once the device is gone or has closed this channel, -20019. A
+ * call that is inside the library when its channel ends returns within 100 ms: -20015 after
+ * IOTC_Session_Close, -20016 when the device is gone, -20017 after avServStop, -20018 after
+ * avClientStop, -20026 after IOTC_DeInitialize.
  */
 
 #if defined(_WIN32) && defined(AV_BUILDING)
@@ -60,7 +60,8 @@ enum AV_Result {
 
 enum {
     AV_FRAME_INFO_BYTES = 16, /* the frame information that travels with each frame */
-    AV_IO_CONTROL_MAX_BYTES = 1024 /* the largest IO-control message that can be sent */
+    AV_IO_CONTROL_MAX_BYTES = 1024, /* the largest IO-control message that can be sent */
+    AV_SOUND_MAX_BYTES = 16384 /* the largest sound frame that can be sent */
 };
 
 /*
@@ -79,8 +80,8 @@ AV_API int avInitialize(int maxChannels);
 /*
  * Opens channel channelId of a connected session as a client. Blocks until the device has
  * answered, for timeoutSec seconds at most. account, password: zero terminated; they do not
- * travel. serviceType, resend: may be null; otherwise the device's service type and 1 or 0 for
- * whether lost frames are sent again.
+ * travel. serviceType, resend: may be null; otherwise 0, and 1 or 0 for whether lost frames are
+ * sent again.
  * Returns the AV index; -59, -20000 for a null text, -20002, -20003, -20009, -20010 for a session
  * that is not connected, -20011, -20015, -20016, -20019, -20026, -20027.
  */
@@ -105,7 +106,8 @@ AV_API int avClientCleanAudioBuf(int avIndex);
 /*
  * Sends one IO-control message of size bytes, 1 to 1024. Blocks until the device's side has taken
  * it, without a limit of its own: avSendIOCtrlExit ends it. Messages of a channel arrive in
- * sending order, each once. Returns 0; -20000 for null data, -20006, -20022.
+ * sending order, each once. A server's channel carries none: -20010.
+ * Returns 0; -20000 for null data, -20006, -20022.
  */
 AV_API int avSendIOCtrl(int avIndex, unsigned int type, const char* data, int size);
 
@@ -152,17 +154,19 @@ AV_API int avRecvAudioData(int avIndex, char* buffer, int capacity, char* frameI
  * Sends one sound frame of size bytes with its frame information to the device that joined this
  * server. Copies it and does not wait for the device. Returns 0; -20000 for a null pointer, a
  * size below 1 or a frameInfoSize other than AV_FRAME_INFO_BYTES, -20020 for a client's index,
- * -20030 when too much waits to be sent; the frame is dropped.
+ * -20006 for more than AV_SOUND_MAX_BYTES, -20030 when too much waits to be sent; the frame is
+ * dropped.
  */
 AV_API int avSendAudioData(
     int avIndex, const char* data, int size, const void* frameInfo, int frameInfoSize);
 
 /*
  * Waits for the device to join channel channelId of a connected session as a client, for
- * timeoutSec seconds at most; a device that auth refuses has not joined. serviceType is told to
- * the device. resend: may be null; otherwise gets 1 or 0 for whether lost frames are sent again.
+ * timeoutSec seconds at most; a device that auth refuses has not joined. serviceType: not used.
+ * resend: may be null; otherwise gets 1 or 0 for whether lost frames are sent again.
  * Returns the AV index; -20000 for a null auth, -20002, -20003, -20010 for a session that is not
- * connected, -20011, -20015, -20016, -20019, -20026, -20027.
+ * connected, -20009 and -59 when the device does not take our password any more, -20011, -20015,
+ * -20016, -20019, -20026, -20027.
  */
 AV_API int avServStart3(int sessionId, AV_AuthCallback auth, unsigned int timeoutSec,
     unsigned int serviceType, unsigned char channelId, int* resend);

@@ -86,7 +86,7 @@ static_assert(offsetof(IOTC_SearchRecord, name) == 70, "callers read the record 
 
 /*
  * Brings the session half up. udpPort: the local UDP port, 0 for any. Does not wait on the network.
- * Returns 0; -3 when it is up already, -5, -6, -8, -58.
+ * Returns 0; -3 when it is up already, -5, -6, -8, -58 when the system gives no memory.
  */
 IOTC_API int IOTC_Initialize2(unsigned short udpPort);
 
@@ -134,7 +134,8 @@ IOTC_API void IOTC_Session_Close(int sessionId);
 
 /*
  * Starts a search on the local network that asks every intervalMs for waitMs milliseconds, and
- * returns at once. Returns 0; -6, -12, -16, -17 while a search runs, -46 for a time below 1.
+ * returns at once. Returns 0; -12, -16, -17 until the search before has been stopped, -46 for a
+ * time below 1, -58.
  */
 IOTC_API int IOTC_Search_Device_Start(int waitMs, int intervalMs);
 

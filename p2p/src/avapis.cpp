@@ -103,7 +103,10 @@ int avSendIOCtrl(int avIndex, unsigned int type, const char* data, int size)
     if (data != nullptr && (size < 1 || size > AV_IO_CONTROL_MAX_BYTES) && readyLayer())
         return AV_BAD_SIZE;
     return withChannel(avIndex, data != nullptr, AV_BAD_ARGUMENT, [&](AvChannel& channel) {
-        return channel.sendControl(type, {data, static_cast<std::size_t>(size)});
+        // A server's channel carries sound only.
+        return channel.kind() == AvChannel::Kind::Client
+            ? channel.sendControl(type, {data, static_cast<std::size_t>(size)})
+            : static_cast<int>(AV_BAD_INDEX);
     });
 }
 
@@ -153,6 +156,8 @@ int avSendAudioData(
     return withChannel(avIndex, sound, AV_BAD_ARGUMENT, [&](AvChannel& channel) {
         if (channel.kind() != AvChannel::Kind::Server)
             return static_cast<int>(AV_NOT_A_SENDER);
+        if (size > AV_SOUND_MAX_BYTES)
+            return static_cast<int>(AV_BAD_SIZE);
         return channel.sendSound(
             {static_cast<const char*>(frameInfo), static_cast<std::size_t>(frameInfoSize)},
             {data, static_cast<std::size_t>(size)});

@@ -214,7 +214,7 @@ int AvChannel::sendSound(std::string_view info, std::string_view bytes)
         return ended_;
     const std::size_t packets = FragmentWriter::packetsFor(bytes.size());
     const std::size_t unconfirmed = socket_.unconfirmed().first;
-    if (unconfirmed != 0 && unconfirmed + packets > maxUnconfirmedSounds)
+    if (unconfirmed + packets > maxUnconfirmedSounds)
         return AV_QUEUE_FULL;
     FragmentWriter writer(Media::Audio, ++soundNumber_, info, bytes);
     while (!writer.done()) {

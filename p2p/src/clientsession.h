@@ -58,7 +58,7 @@ struct ClientSession
     Clock::time_point heard; // last, on any of its connections
     Clock::time_point told; // when the last Alive went out
 
-    // Of the channel that was started last: the next one rarely differs, and the key is slow. It
+    // Of the channel that was opened last: the next one rarely differs, and the key is slow. It
     // is also what a device has to know that wants to listen to us.
     std::string account;
     std::string password;

@@ -99,7 +99,10 @@ bool read(const Json& root, DeploymentLink& link)
 std::vector<fs::path> folders()
 {
     std::error_code error;
-    std::vector<fs::path> found{fs::read_symlink("/proc/self/exe", error).parent_path()};
+    std::vector<fs::path> found;
+    const fs::path program = fs::read_symlink("/proc/self/exe", error);
+    if (program.has_parent_path())
+        found.push_back(program.parent_path());
     const char* configured = std::getenv("XDG_CONFIG_DIRS");
     std::string_view list = configured != nullptr && *configured != '\0' ? configured : "/etc/xdg";
     while (!list.empty()) {

@@ -6,6 +6,7 @@
 #include "wire/limits.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <system_error>
 #include <utility>
 
@@ -14,8 +15,7 @@ namespace {
 constexpr int maxSessions = 1024;
 constexpr std::size_t maxRecords = 4096; // whoever forges answers must not fill the memory
 
-// The layer of the process. A program that ends without taking it down must not leave a thread
-// inside SRT, whose own objects go after this one.
+// The layer of the process. Never destroyed: other threads may still call while the process ends.
 struct Current
 {
     std::mutex mutex;
@@ -24,8 +24,8 @@ struct Current
 
 Current& currentLayer()
 {
-    static Current current;
-    return current;
+    static auto* const current = new Current;
+    return *current;
 }
 
 IOTC_SearchRecord recordOf(const Searcher::Found& found)
@@ -54,9 +54,15 @@ int Layer::bringUp(std::uint16_t udpPort)
         return IOTC_ALREADY_INITIALIZED;
     auto layer = std::make_shared<Layer>();
     const int result = layer->start(udpPort);
-    if (result == 0)
-        currentLayer().layer = std::move(layer);
-    return result;
+    if (result != 0)
+        return result;
+    // A program that ends without taking the layer down must not leave its thread inside SRT, whose
+    // own objects go at the end of the process. They exist by now, so this is done before.
+    static const bool registered = std::atexit(&Layer::abandon) == 0;
+    if (!registered)
+        return IOTC_NO_MEMORY;
+    currentLayer().layer = std::move(layer);
+    return 0;
 }
 
 int Layer::takeDown()
@@ -70,9 +76,17 @@ int Layer::takeDown()
     return 0;
 }
 
+void Layer::abandon()
+{
+    if (const auto layer = current())
+        layer->stopLoop();
+}
+
 Layer::~Layer()
 {
     stopLoop();
+    if (reporter_)
+        reporter_->finish();
 }
 
 int Layer::start(std::uint16_t udpPort)

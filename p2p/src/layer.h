@@ -78,6 +78,8 @@ private:
         std::vector<IOTC_SearchRecord> records;
     };
 
+    // At the end of the process: stops the loop and leaves all else as it stands.
+    static void abandon();
     int start(std::uint16_t udpPort);
     void end();
     void stopLoop();
@@ -105,6 +107,8 @@ private:
     int reserve(const ChannelPtr& channel, int& avIndex);
     int settle(int avIndex, const ChannelPtr& channel, int result);
     std::string keyFor(int id, const std::string& account, const std::string& password);
+    void remember(const ChannelPtr& channel, const char* account, const char* password,
+        const std::string& key);
     int link(const ChannelPtr& channel, StreamId::Kind kind, const std::string& key,
         Clock::time_point deadline);
     int awaitJoin(const ChannelPtr& channel, AV_AuthCallback auth, Clock::time_point deadline);

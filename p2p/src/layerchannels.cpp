@@ -51,8 +51,9 @@ int Layer::settle(int avIndex, const ChannelPtr& channel, int result)
     const auto found = channels_.find(avIndex);
     if (found != channels_.end() && found->second == channel)
         channels_.erase(found);
+    // Whatever has ended it before tells more.
     channel->end(result);
-    return result;
+    return channel->ended();
 }
 
 int Layer::startClient(int id, const char* account, const char* password,
@@ -65,6 +66,8 @@ int Layer::startClient(int id, const char* account, const char* password,
         return refusal;
     std::string key = keyFor(id, account, password);
     const int result = link(channel, StreamId::Kind::Channel, key, deadline);
+    if (result == 0)
+        remember(channel, account, password, key);
     wipe(key);
     return settle(avIndex, channel, result);
 }
@@ -92,26 +95,31 @@ int Layer::startServer(
 std::string Layer::keyFor(int id, const std::string& account, const std::string& password)
 {
     std::unique_lock lock(mutex_);
-    ClientSession* session = sessionWith(id);
+    const ClientSession* session = sessionWith(id);
     if (session == nullptr)
         return {};
     if (!session->key.empty() && session->account == account && session->password == password)
         return session->key;
     const std::string uid = session->uid;
     const Hello hello = session->hello;
-    const std::uint64_t serial = session->serial;
     lock.unlock();
-    std::string key = accountPassphrase(uid, account, password, hello.salt, hello.keyRounds);
-    lock.lock();
-    session = sessionWith(id);
-    if (session != nullptr && session->serial == serial) {
-        wipe(session->password);
-        wipe(session->key);
-        session->account = account;
-        session->password = password;
-        session->key = key;
-    }
-    return key;
+    return accountPassphrase(uid, account, password, hello.salt, hello.keyRounds);
+}
+
+// The next channel rarely has another account, and the key of a speech channel is that of the one
+// that was opened last.
+void Layer::remember(
+    const ChannelPtr& channel, const char* account, const char* password, const std::string& key)
+{
+    const Lock lock(mutex_);
+    ClientSession* session = sessionWith(channel->session());
+    if (session == nullptr || channel->ended() != 0)
+        return;
+    wipe(session->password);
+    wipe(session->key);
+    session->account = account;
+    session->password = password;
+    session->key = key;
 }
 
 int Layer::link(const ChannelPtr& channel, StreamId::Kind kind, const std::string& key,

@@ -48,11 +48,15 @@ int Layer::connect(const char* uid, int id, IOTC_ConnectCallback callback, void*
     // Going down makes the last reports; nobody would make this one.
     if (stopping_)
         return IOTC_NOT_INITIALIZED;
-    const int refusal = refusalOf(uid, id, callback);
+    int refusal = refusalOf(uid, id, callback);
     Attempt attempt;
     attempt.callback = callback;
     attempt.userData = userData;
     ClientSession* session = sessionWith(id);
+    if (refusal == 0
+        && !(fillRandom(&attempt.asking.query.nonce, sizeof attempt.asking.query.nonce)
+            && fillRandom(session->token.data(), session->token.size())))
+        refusal = IOTC_NO_MEMORY;
     if (refusal == 0) {
         beginAttempt(*session, uid, attempt);
     } else if (callback != nullptr && session != nullptr && session->state == State::Reserved) {
@@ -72,9 +76,8 @@ void Layer::beginAttempt(ClientSession& session, const char* uid, const Attempt&
     Attempt& begun = *session.attempt;
     begun.started = Clock::now();
     begun.deadline = begun.started + findLimit;
-    begun.asking = {{0, session.uid}, begun.deadline, askInterval, begun.started};
-    fillRandom(&begun.asking.query.nonce, sizeof begun.asking.query.nonce);
-    fillRandom(session.token.data(), session.token.size());
+    begun.asking = {
+        {attempt.asking.query.nonce, session.uid}, begun.deadline, askInterval, begun.started};
     report(begun, IOTC_STATE_SEARCHING, 0);
 }
 
@@ -160,8 +163,9 @@ void Layer::shakeHands(int id, ClientSession& session, const Address& address)
         report(attempt, IOTC_STATE_FOUND, 0);
     }
     session.address = address;
-    session.socket = SrtSocket::make(SrtUse::Session, sessionPassphrase(session.uid));
-    const bool bound = session.socket && session.socket.bind(local_);
+    const std::string key = sessionPassphrase(session.uid);
+    session.socket = SrtSocket::make(SrtUse::Session, key);
+    const bool bound = !key.empty() && session.socket && session.socket.bind(local_);
     if (bound) {
         owners_[session.socket.id()] = {id, nullptr};
         poll_.add(session.socket.id(), true);

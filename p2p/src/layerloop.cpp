@@ -142,7 +142,9 @@ void Layer::readChannel(const ChannelPtr& channel)
         if (packet && channel->take(*packet))
             continue;
         const Lock lock(mutex_);
-        if (ClientSession* session = sessionWith(channel->session()))
+        // Once the channel has ended, the id may be another session's.
+        ClientSession* session = sessionWith(channel->session());
+        if (channel->ended() == 0 && session != nullptr)
             loseSession(channel->session(), *session);
         return;
     }

@@ -84,11 +84,12 @@ std::optional<Address> addressFrom(SRTSOCKET id, Get get)
     return Address(address);
 }
 
-bool secret(SRTSOCKET id, SRT_SOCKOPT direction)
+std::optional<std::int32_t> keyState(SRTSOCKET id, SRT_SOCKOPT direction)
 {
     std::int32_t state = 0;
     int length = sizeof state;
-    return srt_getsockflag(id, direction, &state, &length) == 0 && state == SRT_KM_S_SECURED;
+    return srt_getsockflag(id, direction, &state, &length) == 0 ? std::optional(state)
+                                                                : std::nullopt;
 }
 
 bool hasData(SRTSOCKET id)
@@ -182,7 +183,11 @@ SrtSocket::Key SrtSocket::keyOf(SRTSOCKET id)
     const SRT_SOCKSTATUS state = srt_getsockstate(id);
     if (state < SRTS_CONNECTED)
         return Key::Unknown;
-    return secret(id, SRTO_SNDKMSTATE) && secret(id, SRTO_RCVKMSTATE) ? Key::Right : Key::Wrong;
+    const auto sending = keyState(id, SRTO_SNDKMSTATE);
+    const auto receiving = keyState(id, SRTO_RCVKMSTATE);
+    if (!sending || !receiving)
+        return Key::Forgotten;
+    return sending == SRT_KM_S_SECURED && receiving == SRT_KM_S_SECURED ? Key::Right : Key::Wrong;
 }
 
 SrtSocket::Io SrtSocket::send(std::string_view message) const

@@ -92,8 +92,13 @@ public:
     // Both directions are encrypted with a key that both ends have.
     bool secured() const { return keyOf(id_) == Key::Right; }
 
-    // What the handshake of a connection has shown; of one that SRT has forgotten, Wrong.
-    enum class Key { Unknown, Right, Wrong };
+    // What the handshake of a connection has shown.
+    enum class Key {
+        Unknown, // nothing yet
+        Right,
+        Wrong,
+        Forgotten, // the connection is over, and SRT knows nothing of it any more
+    };
     static Key keyOf(SRTSOCKET id);
 
     Io send(std::string_view message) const;

@@ -10,7 +10,7 @@
 #include <string_view>
 
 // The datagrams of the search on the local network. Both have one fixed size, so that a query
-// with a forged sender makes no more traffic than it cost. Decoding is pure: bytes in, value or
+// with a forged sender makes no more traffic at each device than it cost. Decoding is pure: bytes in, value or
 // nothing out.
 
 struct SearchQuery

@@ -48,6 +48,17 @@ public:
         return channel.connected();
     }
 
+    // Asks for it and does not wait.
+    SrtSocket startChannel(int number, const std::string& passphrase = {})
+    {
+        SrtSocket socket = SrtSocket::make(SrtUse::Session, passphrase.empty() ? key_ : passphrase);
+        socket.connect(device_,
+            encode(
+                StreamId{StreamId::Kind::Channel, uid_, token_, static_cast<std::uint8_t>(number)}),
+            std::chrono::seconds(3));
+        return socket;
+    }
+
     // What has come on the channel.
     std::vector<AssembledFrame> readFrames()
     {

@@ -440,7 +440,7 @@ private slots:
             int(AV_WRONG_PASSWORD));
         QTRY_COMPARE(device.wrongPasswords(), 3);
         QVERIFY(openChannel(session, 0) >= 0);
-        QCOMPARE(device.opened(), 1);
+        QTRY_COMPARE(device.opened(), 1);
     }
 
     void aNewPasswordCountsFromTheNextChannelOn()
@@ -466,6 +466,29 @@ private slots:
         // Another device of the same host has nothing to do with it.
         TestDevice other(uid);
         QVERIFY(connectTo(uid) >= 0);
+    }
+
+    void closingTheSessionWhileAChannelStartsTellsSo()
+    {
+        TestDevice device(uid);
+        for (int i = 0; i < 20; ++i) {
+            const int session = connectTo(uid);
+            QVERIFY(session >= 0);
+            std::atomic<bool> started{false};
+            int result = 0;
+            std::thread opening([&] {
+                started = true;
+                result = openChannel(session, 0);
+            });
+            while (!started)
+                std::this_thread::yield();
+            std::this_thread::sleep_for(std::chrono::microseconds(i * 5));
+            IOTC_Session_Close(session);
+            opening.join();
+            // Before it has begun the session is not there; afterwards the channel is open.
+            const std::set<int> sound{AV_SESSION_CLOSED, AV_BAD_INDEX, 0};
+            QVERIFY2(sound.count(result) == 1, qPrintable(QString::number(result)));
+        }
     }
 };
 

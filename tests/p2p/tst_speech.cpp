@@ -143,6 +143,55 @@ private slots:
         QCOMPARE(sendMessage(av_, 1, "open"), 0);
     }
 
+    void aNewPasswordDoesNotSpoilTheSpeech()
+    {
+        device_->host().setPassword(uid, "changed");
+        channel_->joinSpeech(speechNumber);
+        QVERIFY(serve(session_, acceptAll, 5) >= 0);
+        QCOMPARE(device_->wrongPasswords(), 0);
+    }
+
+    void aWrongPasswordElsewhereDoesNotSpoilTheSpeech()
+    {
+        QCOMPARE(openChannel(session_, 1, "wrong"), int(AV_WRONG_PASSWORD));
+        QTRY_COMPARE(device_->wrongPasswords(), 1);
+        channel_->joinSpeech(speechNumber);
+        QVERIFY(serve(session_, acceptAll, 5) >= 0);
+        QCOMPARE(device_->wrongPasswords(), 1);
+    }
+
+    void aSoundThatIsTooLargeIsRefused()
+    {
+        channel_->joinSpeech(speechNumber);
+        const int speech = serve(session_, acceptAll, 5);
+        QCOMPARE(sendSound(speech, soundOf(AV_SOUND_MAX_BYTES + 1)), int(AV_BAD_SIZE));
+        QCOMPARE(sendSound(speech, soundOf(AV_SOUND_MAX_BYTES)), 0);
+        QTRY_COMPARE(device_->speech().size(), std::size_t{1});
+        QCOMPARE(sendMessage(av_, 1, "the session lives"), 0);
+    }
+
+    void soundThatTheDeviceDoesNotTakeIsBounded()
+    {
+        channel_->joinSpeech(speechNumber);
+        const int speech = serve(session_, acceptAll, 5);
+        device_->host().setSilent(uid, true);
+        int result = 0;
+        for (int i = 0; i < 100000 && result == 0; ++i)
+            result = sendSound(speech, soundOf(320));
+        QCOMPARE(result, int(AV_QUEUE_FULL));
+        unsigned int unconfirmed = 0;
+        QCOMPARE(avServGetResendSize(speech, &unconfirmed), 0);
+        QVERIFY(unconfirmed > 0);
+    }
+
+    void aServerCarriesNoMessages()
+    {
+        channel_->joinSpeech(speechNumber);
+        const int speech = serve(session_, acceptAll, 5);
+        QCOMPARE(sendMessage(speech, 1, "x"), int(AV_BAD_INDEX));
+        QCOMPARE(sendSound(speech, soundOf(320)), 0);
+    }
+
     void closingTheSessionEndsServing()
     {
         int result = 0;

@@ -7,7 +7,6 @@
 #include "testmain.h"
 #include "wire/framing.h"
 
-
 namespace {
 
 const std::string uid = "STRANGERTESTDEVICE01";
@@ -181,6 +180,48 @@ private slots:
         QTRY_COMPARE(readAll(), static_cast<std::size_t>(queued) + 1);
         // The numbers of what was dropped are missing: this is how a client sees a loss.
         QCOMPARE(numbers.back(), static_cast<std::uint32_t>(queued) + 4);
+    }
+
+    // Guesses at once, before the first of them is counted.
+    void guessesAtOnceAreBounded()
+    {
+        TestDevice device("REVIEWTESTDEVICE0013", 64);
+        StrangeClient client(device.uid(), device.host().port());
+        QVERIFY(client.openSession());
+        std::vector<SrtSocket> sockets;
+        for (int i = 0; i < 200; ++i)
+            sockets.push_back(client.startChannel(i % 64, "a wrong passphrase"));
+        int answered = 0;
+        int locked = 0;
+        for (const SrtSocket& socket : sockets) {
+            while (srt_getsockstate(socket.id()) < SRTS_CONNECTED)
+                QTest::qWait(1);
+            const int reason = socket.rejectReason();
+            answered += reason == SRT_REJ_BADSECRET ? 1 : 0;
+            locked += reason == int(Refusal::LockedOut) ? 1 : 0;
+        }
+        QTest::qWait(100);
+        qInfo("%d guesses answered, %d locked out, %d counted", answered, locked,
+            device.wrongPasswords());
+        QVERIFY(answered <= 20);
+    }
+
+    void anOfferedChannelThatIsOpenedAnewIsNotOfferedAgain()
+    {
+        TestDevice device("REVIEWTESTDEVICE0007");
+        StrangeClient client(device.uid(), device.host().port());
+        QVERIFY(client.openSession());
+        QVERIFY(client.openChannel(0));
+        const auto base = device.awaitChannel(0);
+        QVERIFY(base);
+        const int number = base->offerChannel();
+        const SrtSocket keepBase = std::move(client.channel);
+        QVERIFY(client.openChannel(number));
+        QVERIFY(device.awaitChannel(number));
+        const SrtSocket old = std::move(client.channel);
+        QVERIFY(client.openChannel(number));
+        QTRY_COMPARE(device.opened(), 3);
+        QVERIFY(base->offerChannel() != number);
     }
 };
 

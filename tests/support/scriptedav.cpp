@@ -60,7 +60,9 @@ int sendMessage(CallTurn& turn, int avIndex, const char* data, int size)
         return AV_BAD_ARGUMENT;
     if (size < 1 || size > AV_IO_CONTROL_MAX_BYTES)
         return AV_BAD_SIZE;
-    return turn.layer.channelState(avIndex);
+    if (const int state = turn.layer.channelState(avIndex); state < 0)
+        return state;
+    return turn.layer.channels.at(avIndex).server ? AV_BAD_INDEX : 0;
 }
 
 int endSends(CallTurn& turn, int avIndex)
@@ -115,13 +117,15 @@ int startServer(CallTurn& turn, const ScriptedLayer::Channel& channel, AV_AuthCa
     return accepted == 1 ? turn.layer.openChannel(channel) : AV_NO_ANSWER;
 }
 
-int sendSound(CallTurn& turn, int avIndex, bool complete)
+int sendSound(CallTurn& turn, int avIndex, int size, bool complete)
 {
     if (!complete)
         return AV_BAD_ARGUMENT;
     if (const int state = turn.layer.channelState(avIndex); state < 0)
         return state;
-    return turn.layer.channels.at(avIndex).server ? 0 : AV_NOT_A_SENDER;
+    if (!turn.layer.channels.at(avIndex).server)
+        return AV_NOT_A_SENDER;
+    return size > AV_SOUND_MAX_BYTES ? AV_BAD_SIZE : 0;
 }
 
 int resendSize(CallTurn& turn, int avIndex, unsigned int* size)
@@ -201,7 +205,7 @@ int avSendAudioData(
     int avIndex, const char* data, int size, const void* frameInfo, int frameInfoSize)
 {
     const bool complete = data && size > 0 && frameInfo && frameInfoSize == AV_FRAME_INFO_BYTES;
-    const auto own = [=](CallTurn& turn) { return sendSound(turn, avIndex, complete); };
+    const auto own = [=](CallTurn& turn) { return sendSound(turn, avIndex, size, complete); };
     return engine().run(LinkFn::avSendAudioData,
         {{"avIndex", avIndex}, {"data", bytesArgument(data, size, soundRecordLimit)},
             {"size", size}, {"frameInfoSize", frameInfoSize},

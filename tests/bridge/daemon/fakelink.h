@@ -78,6 +78,8 @@ public:
         const std::lock_guard lock(mutex_);
         raw_.append(QByteArray(datagram.data(), static_cast<int>(datagram.size())));
     }
+    void loseVideo() override { ++lost_; }
+    int lost() const { return lost_; }
 
 private:
     const int number_;
@@ -87,6 +89,7 @@ private:
     QList<QByteArray> raw_;
     std::atomic<int> pictures_{0};
     std::atomic<int> sounds_{0};
+    std::atomic<int> lost_{0};
     std::atomic<int> speechChannel_{-1};
 };
 

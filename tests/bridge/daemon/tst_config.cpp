@@ -198,7 +198,7 @@ void TestConfig::errorsNameTheirLine_data()
     row("odd width", smallest() + "      - main: {url: \"test:\", width: 641}\n",
         "8: width: a picture's width and height must be even");
     row("rate", smallest() + "      - main: {url: \"test:\", rate: 0}\n",
-        "8: rate: expected a number from 1 to 120");
+        "8: rate: expected a number from 1 to 60");
     row("count", smallest() + "      - count: 65\n        main: \"test:\"\n",
         "8: count: expected a number from 1 to 64");
     row("too many channels", smallest() + "      - count: 64\n        main: \"test:\"\n",

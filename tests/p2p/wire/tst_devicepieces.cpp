@@ -212,10 +212,27 @@ private slots:
         QVERIFY(seconds > 20 && seconds < 60);
     }
 
-    void whoGetsNothingThroughKeepsALittle()
+    void anOutageSaysNothingOfTheLine()
     {
         Pacer pacer;
-        QCOMPARE(pacer.next({1000, 900, 0}), 16 * 1024);
+        QCOMPARE(pacer.next({1000, 900, 0}), Pacer::unlimited);
+    }
+
+    void afterABadSecondItIsSoonAsFastAsBefore()
+    {
+        Pacer pacer;
+        pacer.next({1000, 0, 400000});
+        QCOMPARE(pacer.next({1000, 900, 40000}), 50000);
+        int seconds = 0;
+        while (pacer.next({1000, 0, 40000}) < 400000 && seconds < 100)
+            ++seconds;
+        QVERIFY(seconds <= 4);
+    }
+
+    void whoGetsHardlyAnythingThroughKeepsALittle()
+    {
+        Pacer pacer;
+        QCOMPARE(pacer.next({1000, 900, 100}), 16 * 1024);
     }
 };
 

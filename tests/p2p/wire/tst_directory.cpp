@@ -85,7 +85,7 @@ private slots:
         QVERIFY(directory_.handlerOf(otherUid) == nullptr);
         QVERIFY(directory_.decide({Kind::Session, otherUid, token, 0}, ip)
             == Decision(Refusal::UnknownDevice));
-        QVERIFY(!directory_.openSession(token, otherUid));
+        QVERIFY(!directory_.openSession(token, otherUid, ip));
         QVERIFY(directory_.publish(device(otherUid), handler_));
     }
 
@@ -137,7 +137,7 @@ private slots:
 
     void newPasswordCountsFromTheNextChannelOn()
     {
-        QVERIFY(directory_.openSession(token, otherUid));
+        QVERIFY(directory_.openSession(token, otherUid, ip));
         const Hello hello = directory_.helloOf(otherUid);
         const std::string old = channelKey(otherUid);
         directory_.setPassword(otherUid, "new");
@@ -166,7 +166,7 @@ private slots:
     {
         openSession();
         QCOMPARE(refusal(Kind::Session), Refusal::Malformed);
-        QVERIFY(!directory_.openSession(token, uid));
+        QVERIFY(!directory_.openSession(token, uid, ip));
         QVERIFY(isLetIn(Kind::Session, 0, otherToken));
         directory_.closeSession(token);
         QVERIFY(isLetIn(Kind::Session));
@@ -175,11 +175,12 @@ private slots:
     void sessionsAreBounded()
     {
         for (int number = 0; number < 1024; ++number)
-            QVERIFY(directory_.openSession(numbered(number), uid));
+            QVERIFY(
+                directory_.openSession(numbered(number), uid, number < 512 ? "192.0.2.67" : ip));
         QCOMPARE(refusal(Kind::Session), Refusal::Full);
-        QVERIFY(!directory_.openSession(token, uid));
+        QVERIFY(!directory_.openSession(token, uid, ip));
         QVERIFY(isLetIn(Kind::Channel, 0, numbered(1000)));
-        directory_.closeSession(numbered(500));
+        directory_.closeSession(numbered(600));
         QVERIFY(isLetIn(Kind::Session));
         for (int number = 0; number < 1024; ++number)
             directory_.closeSession(numbered(number));
@@ -198,7 +199,7 @@ private slots:
 
     void sessionOfAnotherDeviceIsUnknown()
     {
-        QVERIFY(directory_.openSession(token, otherUid));
+        QVERIFY(directory_.openSession(token, otherUid, ip));
         directory_.expectSpeech(token, 0);
         QCOMPARE(refusal(Kind::Channel), Refusal::UnknownSession);
         QCOMPARE(refusal(Kind::Speech), Refusal::UnknownSession);
@@ -224,7 +225,7 @@ private slots:
     void offerIsForItsSessionAlone()
     {
         openSession();
-        QVERIFY(directory_.openSession(otherToken, uid));
+        QVERIFY(directory_.openSession(otherToken, uid, ip));
         QCOMPARE(directory_.offerChannel(token), 64);
         QVERIFY(isLetIn(Kind::Channel, 64));
         QCOMPARE(refusal(Kind::Channel, 64, otherToken), Refusal::NoSuchChannel);
@@ -256,6 +257,10 @@ private slots:
         openSession();
         QCOMPARE(refusal(Kind::Speech, 31), Refusal::NoSuchChannel);
         directory_.expectSpeech(token, 31);
+        // Without an open channel there is no key that the client would know.
+        QCOMPARE(refusal(Kind::Speech, 31), Refusal::NoSuchChannel);
+        QVERIFY(isLetIn(Kind::Channel));
+        directory_.channelOpened(token);
         QVERIFY(isLetIn(Kind::Speech, 31));
         QCOMPARE(refusal(Kind::Speech, 30), Refusal::NoSuchChannel);
         directory_.expectSpeech(token, 30);
@@ -274,7 +279,7 @@ private slots:
         };
         for (int i = 0; i < 9; ++i)
             QVERIFY(!directory_.wrongPassword(uid, guesser));
-        QVERIFY(std::holds_alternative<std::string>(decision(Kind::Channel)));
+        QVERIFY(std::holds_alternative<std::string>(decision(Kind::Session)));
         QVERIFY(directory_.wrongPassword(uid, guesser));
         for (const Kind kind : {Kind::Session, Kind::Channel, Kind::Speech})
             QVERIFY(decision(kind) == Decision(Refusal::LockedOut));
@@ -282,6 +287,38 @@ private slots:
         QVERIFY(isLetIn(Kind::Channel));
         QVERIFY(std::holds_alternative<std::string>(
             directory_.decide({Kind::Session, otherUid, otherToken, 0}, guesser)));
+    }
+
+    void aSessionsChannelsComeFromItsOwnAddress()
+    {
+        openSession();
+        QVERIFY(directory_.decide({Kind::Channel, uid, token, 0}, "192.0.2.67")
+            == Decision(Refusal::UnknownSession));
+        QVERIFY(isLetIn(Kind::Channel));
+    }
+
+    void speechHasTheKeyOfTheChannelThatIsOpen()
+    {
+        openSession();
+        const auto key = [&](Kind kind, std::uint8_t number) {
+            return std::get<std::string>(directory_.decide({kind, uid, token, number}, ip));
+        };
+        const std::string before = key(Kind::Channel, 0);
+        directory_.channelOpened(token);
+        directory_.expectSpeech(token, 31);
+        directory_.setPassword(uid, "another");
+        QCOMPARE(key(Kind::Speech, 31), before);
+        QVERIFY(key(Kind::Channel, 1) != before);
+        QCOMPARE(key(Kind::Speech, 31), before);
+    }
+
+    void oneAddressLeavesRoomForOthers()
+    {
+        for (int number = 0; number < 512; ++number)
+            QVERIFY(directory_.openSession(numbered(number), uid, ip));
+        QCOMPARE(refusal(Kind::Session), Refusal::Full);
+        QVERIFY(std::holds_alternative<std::string>(
+            directory_.decide({Kind::Session, uid, token, 0}, "192.0.2.67")));
     }
 
     void wrongPasswordForNobodyLocksNothing()
@@ -292,7 +329,7 @@ private slots:
     }
 
 private:
-    void openSession() { QVERIFY(directory_.openSession(token, uid)); }
+    void openSession() { QVERIFY(directory_.openSession(token, uid, ip)); }
 
     bool isLetIn(Kind kind, std::uint8_t number = 0, const SessionToken& session = token)
     {
