@@ -32,8 +32,9 @@ Windows windowsFor(SrtUse use)
     case SrtUse::FrameSender:
         return {static_cast<int>(senderPackets), 256};
     case SrtUse::FrameReceiver:
-        // 1.4 MiB on their way: 14 MiB a second over a round trip of 100 ms.
-        return {256, 1024};
+        // 2.8 MiB on their way. With half of that a third of what is sent at full speed is sent
+        // again, since the confirmations come too late for the window.
+        return {256, 2048};
     case SrtUse::Session:
         break;
     }

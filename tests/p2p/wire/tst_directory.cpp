@@ -319,6 +319,8 @@ private slots:
         QCOMPARE(refusal(Kind::Session), Refusal::Full);
         QVERIFY(std::holds_alternative<std::string>(
             directory_.decide({Kind::Session, uid, token, 0}, "192.0.2.67")));
+        for (int number = 0; number < 512; ++number)
+            directory_.closeSession(numbered(number));
     }
 
     void wrongPasswordForNobodyLocksNothing()
