@@ -230,7 +230,8 @@ void Host::keepAlive()
 
 void Host::closeChannel(Session& session, const std::shared_ptr<Channel>& held, Number number)
 {
-    const std::shared_ptr<Channel> channel = held; // `held` may be what is erased
+    const std::shared_ptr<Channel> channel =
+        held->shared_from_this(); // `held` may be what is erased
     poll_.remove(channel->id());
     owners_.erase(channel->id());
     session.channels.erase(channel->id());

@@ -236,7 +236,7 @@ bool Host::handle(Session& session, std::string_view bytes)
 
 void Host::readChannel(Session& session, const std::shared_ptr<Channel>& held)
 {
-    const std::shared_ptr<Channel> channel = held; // a handler may close it
+    const std::shared_ptr<Channel> channel = held->shared_from_this(); // a handler may close it
     const std::uint64_t sessionId = session.id;
     std::array<char, packetBytes> buffer{};
     std::string_view packet;

@@ -10,8 +10,8 @@ namespace {
 constexpr std::int64_t judgeFrom = 50; // packets
 constexpr std::int64_t crowded = 3; // one packet in this many was repeated
 
-constexpr std::int64_t lowest = 16 * 1024; // bytes per second: a picture now and then
-constexpr std::int64_t wide = 16 * 1024 * 1024; // no need to hold back any more
+constexpr std::int64_t lowest = std::int64_t{16} << 10; // bytes per second: a picture now and then
+constexpr std::int64_t wide = std::int64_t{16} << 20; // no need to hold back any more
 
 } // namespace
 

@@ -14,6 +14,9 @@ constexpr int mss = 1500;
 constexpr int packetInBuffer = mss - 28; // how SRT counts its buffers
 constexpr int aes128 = 16;
 
+constexpr int reading = int{SRT_EPOLL_IN} | int{SRT_EPOLL_ERR};
+constexpr int writing = SRT_EPOLL_OUT;
+
 // Longer than any stream pauses between two frames.
 constexpr std::chrono::milliseconds livelyTime{1000};
 constexpr std::chrono::milliseconds livelyTick{1};
@@ -247,14 +250,13 @@ SrtPoll::~SrtPoll()
 
 void SrtPoll::add(SRTSOCKET socket, bool writable) const
 {
-    const int events = SRT_EPOLL_IN | SRT_EPOLL_ERR | (writable ? int{SRT_EPOLL_OUT} : 0);
+    const int events = writable ? reading | writing : reading;
     srt_epoll_add_usock(id_, socket, &events);
 }
 
 void SrtPoll::watchReadOnly(SRTSOCKET socket) const
 {
-    const int events = SRT_EPOLL_IN | SRT_EPOLL_ERR;
-    srt_epoll_update_usock(id_, socket, &events);
+    srt_epoll_update_usock(id_, socket, &reading);
 }
 
 void SrtPoll::remove(SRTSOCKET socket)
