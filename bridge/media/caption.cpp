@@ -14,6 +14,8 @@ namespace {
     std::array<char, 96> text{};
     std::va_list values;
     va_start(values, pattern);
+    // The checker does not see that va_start() has filled it in.
+    // NOLINTNEXTLINE(clang-analyzer-valist.Uninitialized)
     const int size = std::vsnprintf(text.data(), text.size(), pattern, values);
     va_end(values);
     return {text.data(), std::min(text.size() - 1, static_cast<std::size_t>(std::max(0, size)))};

@@ -41,7 +41,7 @@ public:
     // A client takes 256 pictures and 8 MiB of one channel before it drops some: a longer group
     // could not be given at once. It is then not kept, and new watchers wait for the next key.
     static constexpr std::size_t maxGroupFrames = 250;
-    static constexpr std::size_t maxGroupBytes = 6 * 1024 * 1024;
+    static constexpr std::size_t maxGroupBytes = std::size_t{6} << 20;
 
     // `wanted` is called after each add(), on its thread.
     FrameHub(Kind kind, std::function<void()> wanted);

@@ -127,7 +127,10 @@ void InputSource::put(AVPacket& packet, const InputStream& input)
 bool InputSource::pace(const AVPacket& packet, const InputStream& input)
 {
     const bool picture = packet.stream_index == input.video().index;
-    const AVRational base = picture ? input.video().time_base : input.audio()->time_base;
+    const AVStream* stream = picture ? &input.video() : input.audio();
+    if (stream == nullptr)
+        return true;
+    const AVRational base = stream->time_base;
     const auto stamp = stampOf(packet, base);
     const auto frameTime = std::chrono::microseconds(1'000'000 / video_.framesPerSecond);
     const auto duration = packet.duration > 0 ? toMicroseconds(packet.duration, base) : frameTime;
