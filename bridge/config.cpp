@@ -39,8 +39,13 @@ bool startsWith(const std::string& text, const char* start)
 // Makes the path of a file absolute. What is wrong with the address, or the empty text.
 std::string settleUrl(std::string& url, const Reading& reading)
 {
-    if (url == "test:" || startsWith(url, "rtsp://"))
+    if (url == "test:")
         return {};
+    // These would end the address within a line of the log, before its password is taken out.
+    if (startsWith(url, "rtsp://"))
+        return url.find_first_of(" \"'<>") == std::string::npos
+            ? std::string()
+            : "write blanks, quotes, < and > as %20, %22, %27, %3C and %3E";
     if (!startsWith(url, "file:"))
         return "expected test:, file:PATH or rtsp://...";
     const std::string path = absolute(url.substr(5), reading);

@@ -22,6 +22,7 @@ const Word words[] = {
     {"silent", Kind::Silent, Arguments::Switch},
     {"drop", Kind::Drop, Arguments::Number},
     {"hold", Kind::Hold, Arguments::Switch},
+    {"mute", Kind::Mute, Arguments::Switch},
     {"answer", Kind::Answer, Arguments::TypeAndStatus},
     {"truncated", Kind::Truncated, Arguments::Number},
     {"oversized", Kind::Oversized, Arguments::Number},
@@ -112,6 +113,9 @@ void Faults::apply(const Fault& fault)
         break;
     case Kind::Hold:
         hold_ = fault.count == 1;
+        break;
+    case Kind::Mute:
+        mute_ = fault.count == 1;
         break;
     case Kind::Truncated:
         truncated_ = fault.count;

@@ -15,6 +15,7 @@
 //   silent on|off     answers nothing any more
 //   drop N            leaves out every Nth picture; 0 ends it
 //   hold on|off       takes no control messages: the client's sends wait
+//   mute on|off       takes them and answers none
 //   answer TYPE S     puts S into the status of each answer of this type; "off" ends it
 //   truncated N       cuts the next N answers to half their bytes
 //   oversized N       sends datagrams with 1400 bytes of message instead of the next N answers
@@ -22,7 +23,7 @@
 //   die               ends the program on the spot
 struct Fault
 {
-    enum class Kind { Refuse, Silent, Drop, Hold, Answer, Truncated, Oversized, Broken, Die };
+    enum class Kind { Refuse, Silent, Drop, Hold, Mute, Answer, Truncated, Oversized, Broken, Die };
 
     Kind kind = Kind::Die;
     int count = 0; // N, or 1 and 0 for on and off
@@ -44,6 +45,7 @@ public:
 
     bool refuseSession() { return takeOne(refuse_); }
     bool holdsControl() const { return hold_; }
+    bool isMute() const { return mute_; }
     bool dropsPicture(unsigned number) const;
     std::optional<int> statusFor(unsigned type) const;
     Damage damageNext();
@@ -53,6 +55,7 @@ private:
 
     std::atomic<int> refuse_{0};
     std::atomic<bool> hold_{false};
+    std::atomic<bool> mute_{false};
     std::atomic<int> dropEvery_{0};
     std::atomic<int> truncated_{0};
     std::atomic<int> oversized_{0};

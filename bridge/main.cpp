@@ -5,10 +5,12 @@
 #include "log.h"
 #include "newuid.h"
 
+#include <chrono>
 #include <csignal>
 #include <cstdio>
 #include <fstream>
 #include <sstream>
+#include <thread>
 #include <unistd.h>
 
 namespace {
@@ -69,6 +71,12 @@ ExitCode serve(const std::string& path)
     int signal = 0;
     sigwait(&signals, &signal);
     logEvent(LogLevel::Info, "", -1, "ending");
+    // Settings are saved within milliseconds. A camera that does not let go, or a name that is still
+    // looked up, must not hold the end up longer.
+    std::thread([] {
+        std::this_thread::sleep_for(std::chrono::milliseconds(1700));
+        ::_exit(static_cast<int>(ExitCode::Ok));
+    }).detach();
     return ExitCode::Ok;
 }
 

@@ -301,8 +301,13 @@ void RequestHandler::handle(const GetVersion&, const ViewerPtr& viewer)
 
 void RequestHandler::handle(const SetTime& request, const ViewerPtr& viewer)
 {
-    log(*viewer, "clock set");
-    context_.settings.setTime(request.local);
+    // In turn with the zone: a client may set both without waiting in between.
+    const bool posted = context_.jobs.post([this, request, viewer] {
+        log(*viewer, "clock set");
+        context_.settings.setTime(request.local);
+    });
+    if (!posted)
+        refuse(*viewer, MsgSetTime, "too much is waiting for the disk");
 }
 
 void RequestHandler::handle(const Rotate& request, const ViewerPtr& viewer)

@@ -4,8 +4,13 @@
 #include "log.h"
 
 #include <chrono>
+#include <optional>
+#include <utility>
 
 namespace {
+
+// A full disk is not tried with every step of a moving head.
+constexpr std::chrono::seconds saveRetryInterval{30};
 
 std::int64_t secondsNow()
 {
@@ -120,14 +125,18 @@ bool DeviceSettings::setZone(const std::string& name)
     auto zone = Zone::load(name);
     if (!zone)
         return false;
-    {
+    const auto put = [this](const std::string& zoneName, std::optional<Zone> known) {
         const std::lock_guard lock(mutex_);
-        device_.zone = name;
-        zone_ = std::move(zone);
+        std::swap(zone_, known);
         deviceUnsaved_ = true;
         showClock();
-    }
-    return save();
+        return std::pair(std::exchange(device_.zone, zoneName), std::move(known));
+    };
+    auto before = put(name, std::move(zone));
+    if (save())
+        return true;
+    put(before.first, std::move(before.second));
+    return false;
 }
 
 // A stored password counts until somebody writes another one into the configuration.
@@ -211,7 +220,7 @@ bool DeviceSettings::tick(Clock::time_point now)
         anyMoving = anyMoving || channel.moving;
     }
     showClock();
-    if (deviceUnsaved_ || !unsaved_.empty())
+    if ((deviceUnsaved_ || !unsaved_.empty()) && now >= retrySave_)
         postSave();
     return anyMoving;
 }
@@ -276,6 +285,7 @@ bool DeviceSettings::save()
         return true;
     logEvent(LogLevel::Error, uid_, -1, "cannot save the settings: " + file_.lastError());
     const std::lock_guard lock(mutex_);
+    retrySave_ = Clock::now() + saveRetryInterval;
     deviceUnsaved_ = true;
     for (const auto& [number, channel] : state.channels)
         unsaved_.insert(number);

@@ -91,6 +91,7 @@ private:
     DeviceState device_; // without channels
     std::optional<Zone> zone_; // nothing: UTC
     std::set<int> unsaved_; // channels
+    Clock::time_point retrySave_; // after a save that failed
     bool deviceUnsaved_ = false;
     bool savePosted_ = false;
 };

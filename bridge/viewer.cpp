@@ -19,6 +19,8 @@ void Viewer::audioFrame(const std::shared_ptr<const LinkFrame>& frame)
 
 void Viewer::answer(std::uint32_t type, std::string bytes)
 {
+    if (faults_.isMute())
+        return;
     if (const auto status = faults_.statusFor(type))
         bytes.replace(0, 4, statusAnswer(*status), 0, std::min<std::size_t>(bytes.size(), 4));
     switch (faults_.damageNext()) {

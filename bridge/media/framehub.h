@@ -38,10 +38,11 @@ class FrameHub
 public:
     enum class Kind { Video, Audio };
 
-    // A client takes 256 pictures and 8 MiB of one channel before it drops some: a longer group
-    // could not be given at once. It is then not kept, and new watchers wait for the next key.
+    // A client takes 256 pictures before it drops some, and a sender holds 2048 packets of 1456
+    // bytes: a longer group could not be given at once. It is then not kept, and new watchers wait
+    // for the next key.
     static constexpr std::size_t maxGroupFrames = 250;
-    static constexpr std::size_t maxGroupBytes = std::size_t{6} << 20;
+    static constexpr std::size_t maxGroupBytes = 2400000;
 
     // `wanted` is called after each add(), on its thread.
     FrameHub(Kind kind, std::function<void()> wanted);

@@ -53,6 +53,8 @@ std::unique_ptr<Reencoder> Reencoder::open(
     }
     int result = avcodec_parameters_to_context(decoder.get(), &coded);
     decoder->thread_count = 1;
+    // The largest pictures there are; a camera that claims more would take the memory.
+    decoder->max_pixels = std::int64_t{8192} * 4320;
     if (result >= 0)
         result = avcodec_open2(decoder.get(), kind, nullptr);
     if (result < 0) {

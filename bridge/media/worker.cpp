@@ -1,6 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "worker.h"
 
+#include "log.h"
+
+#include <string>
+#include <system_error>
+
 Worker::Worker(std::function<void()> body)
     : body_(std::move(body))
 {
@@ -14,8 +19,14 @@ Worker::~Worker()
 void Worker::wake()
 {
     const std::lock_guard lock(mutex_);
-    if (!stopping_ && !thread_.joinable())
-        thread_ = std::thread(body_);
+    if (!stopping_ && !thread_.joinable()) {
+        try {
+            thread_ = std::thread(body_);
+        } catch (const std::system_error& error) {
+            // The next wake() tries again.
+            logEvent(LogLevel::Error, {}, -1, std::string("no thread: ") + error.what());
+        }
+    }
     changed_.notify_all();
 }
 

@@ -195,6 +195,11 @@ void TestConfig::errorsNameTheirLine_data()
         "8: main: no readable file /etc/bridge/gone.mp4");
     row("unknown source", smallest() + "      - main: http://a\n",
         "8: main: expected test:, file:PATH or rtsp://...");
+    for (const char* bad : {" ", "'", "<", ">"}) {
+        row((std::string("camera with ") + bad).c_str(),
+            smallest() + "      - main: \"rtsp://user:pa" + bad + "ss@camera/\"\n",
+            "8: main: write blanks, quotes, < and > as %20, %22, %27, %3C and %3E");
+    }
     row("odd width", smallest() + "      - main: {url: \"test:\", width: 641}\n",
         "8: width: a picture's width and height must be even");
     row("rate", smallest() + "      - main: {url: \"test:\", rate: 0}\n",

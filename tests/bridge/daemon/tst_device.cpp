@@ -37,6 +37,7 @@ private slots:
     void rotationTurnsThePicture();
     void wifiIsListedAndKept();
     void clockIsSetInTheDevicesZone();
+    void clockThatComesRightAfterTheZoneIsInThatZone();
     void zoneIsCheckedAndShown();
     void passwordNeedsTheOldOne();
     void configuredPasswordThatChangedCounts();
@@ -312,9 +313,22 @@ void TestDevice::clockIsSetInTheDevicesZone()
     QCOMPARE(answer(link, 13102, "UTC+02:00"), wordBytes({1}));
     const auto wanted = QDateTime::currentDateTimeUtc().addSecs(7200 + 1000);
     send(link, 13086, wanted.toString("yyyy-M-d-h-m-s").toStdString());
+    QTRY_VERIFY(feeds_[3]->scene().clockOffsetSeconds.load() != 0);
     QVERIFY(link->sent().isEmpty());
     const auto offset = feeds_[3]->scene().clockOffsetSeconds.load();
     QVERIFY2(offset > 990 && offset <= 1000, std::to_string(offset).c_str());
+}
+
+// A client that changes both sends both, and waits for nothing in between.
+void TestDevice::clockThatComesRightAfterTheZoneIsInThatZone()
+{
+    const auto link = open(0);
+    const auto wanted = QDateTime::currentDateTimeUtc().addSecs(7200 + 1000);
+    send(link, 13102, "UTC+02:00");
+    send(link, 13086, wanted.toString("yyyy-M-d-h-m-s").toStdString());
+    QTRY_VERIFY(feeds_[3]->scene().clockOffsetSeconds.load() != 0);
+    const auto offset = feeds_[3]->scene().clockOffsetSeconds.load();
+    QVERIFY2(offset > 980 && offset <= 1000, std::to_string(offset).c_str());
 }
 
 void TestDevice::zoneIsCheckedAndShown()
@@ -512,6 +526,7 @@ void TestDevice::settingsLiveThroughARestart()
     QCOMPARE(answer(link, 834, field("two", 76)), wordBytes({0}));
     QCOMPARE(answer(link, 13102, "Asia/Kolkata"), wordBytes({1}));
     send(link, 13086, "2030-1-1-0-0-0");
+    QTRY_VERIFY(feeds_[1]->scene().clockOffsetSeconds.load() != 0);
     const auto clockOffset = feeds_[1]->scene().clockOffsetSeconds.load();
     restart();
     const auto again = open(1);

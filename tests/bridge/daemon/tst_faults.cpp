@@ -17,6 +17,7 @@ private slots:
     void linesOutOfFormAreTold();
     void refusesThatManySessions();
     void holdIsSwitched();
+    void aMuteDeviceTakesMessagesAndAnswersNone();
     void everyNthPictureIsLeftOut();
     void answersCarryTheStatus();
     void nextAnswersAreCut();
@@ -70,6 +71,20 @@ void TestFaults::holdIsSwitched()
     QVERIFY(!faults.holdsControl());
 }
 
+void TestFaults::aMuteDeviceTakesMessagesAndAnswersNone()
+{
+    const auto link = std::make_shared<FakeChannel>(0);
+    Faults faults;
+    Viewer viewer(link, faults);
+    faults.apply(fault("mute on"));
+    QVERIFY(!faults.holdsControl());
+    viewer.answer(801, std::string(4, '\0'));
+    QCOMPARE(link->sent().size(), 0);
+    faults.apply(fault("mute off"));
+    viewer.answer(801, std::string(4, '\0'));
+    QCOMPARE(link->sent().size(), 1);
+}
+
 void TestFaults::everyNthPictureIsLeftOut()
 {
     const auto link = std::make_shared<FakeChannel>(0);
@@ -79,6 +94,7 @@ void TestFaults::everyNthPictureIsLeftOut()
     for (int i = 0; i < 9; ++i)
         viewer.videoFrame(std::make_shared<LinkFrame>());
     QCOMPARE(link->pictures(), 6);
+    QCOMPARE(link->lost(), 3);
     faults.apply(fault("drop 0"));
     viewer.videoFrame(std::make_shared<LinkFrame>());
     QCOMPARE(link->pictures(), 7);
