@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "device/host.h"
 
-#include "wire/keys.h"
 #include "wire/limits.h"
 
 #include <array>
@@ -14,9 +13,6 @@ namespace {
 // How long a hand-over or a search may wait for the event thread.
 constexpr std::chrono::milliseconds tick{10};
 constexpr std::chrono::milliseconds keepAliveTick{100};
-
-// A socket that never runs empty must not keep the others waiting.
-constexpr int readsInARow = 256;
 
 } // namespace
 

@@ -12,9 +12,6 @@
 
 namespace {
 
-// A socket that never runs empty must not keep the others waiting.
-constexpr int readsInARow = 256;
-
 std::optional<Address> addressOf(const sockaddr* peer)
 {
     if (peer == nullptr || peer->sa_family != AF_INET)
@@ -148,8 +145,6 @@ void Host::acceptSession(SrtSocket socket, const StreamId& id, const Address& pe
     session.id = ++lastSession_;
     session.uid = id.uid;
     session.token = id.token;
-    session.peer = peer.text();
-    session.ip = peer.ip();
     session.heard = session.told = Clock::now();
     session.socket = std::move(socket);
     session.socket.send(encode(directory_.helloOf(id.uid)));

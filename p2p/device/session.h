@@ -29,8 +29,6 @@ struct Session
     std::uint64_t id = 0;
     std::string uid;
     SessionToken token{};
-    std::string peer;
-    std::string ip;
     SrtSocket socket;
     Clock::time_point heard; // last, on any of its connections
     Clock::time_point told; // when the last Alive went out

@@ -13,9 +13,6 @@ namespace {
 constexpr std::chrono::milliseconds tick{10};
 constexpr std::chrono::milliseconds keepAliveTick{100};
 
-// A socket that never runs empty must not keep the others waiting.
-constexpr int readsInARow = 256;
-
 int openingResult(int rejectReason)
 {
     switch (rejectReason) {

@@ -161,5 +161,8 @@ private:
     std::unordered_map<SRTSOCKET, Clock::time_point> lively_; // since when; guarded by mutex_
 };
 
+// How often one socket is read before the others have their turn, since it may never run empty.
+constexpr int readsInARow = 256;
+
 // How many packets a FrameSender can hold unconfirmed.
 constexpr std::size_t senderPackets = 2048;
