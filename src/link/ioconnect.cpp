@@ -1,137 +1,19 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "link/ioconnect.h"
 
-#include "cloud/errormsg.h"
-#include "model/events.h"
+#include "AVAPIs.h"
+#include "IOTCAPIs.h"
+#include "cloud/dev.h"
+#include "link/connect.h"
+#include "link/getmsg.h"
+#include "media/audiosend.h"
+#include "media/decode.h"
+#include "wall/viewcontrol.h"
 
 #include <QDebug>
+#include <QMutexLocker>
 
 namespace {
-
-using FailSignal = void (IoConnect::*)(Channel* channel, int result, const QString& text);
-
-struct Row
-{
-    QEvent::Type number;
-    void (*take)(IoConnect* link, QEvent* event);
-};
-
-void emitFailure(IoConnect* link, FailSignal fail, Channel* channel, int result)
-{
-    emit(link->*fail)(channel, result, ErrorMsg::p2pError(result));
-}
-
-// The common row: a failure has its signal; of a message that went out the device's answer tells
-// the outcome, so success alone says nothing yet.
-template <class Event, FailSignal fail>
-void takeSent(IoConnect* link, QEvent* event)
-{
-    const auto& sent = eventCast<Event>(event);
-    sent.channel->stopIoTimer();
-    if (sent.result < 0)
-        emitFailure(link, fail, sent.channel, sent.result);
-}
-
-template <class Event, FailSignal fail>
-constexpr Row sent()
-{
-    return {Event::number, takeSent<Event, fail>};
-}
-
-void takeReplayIo(IoConnect*, QEvent* event)
-{
-    eventCast<ProgressEvent_playReplayIo>(event).channel->stopIoTimer();
-}
-
-// Success follows a failure too, so that whoever waits for the list always stops waiting.
-void takeReplayVideoTime(IoConnect* link, QEvent* event)
-{
-    takeSent<ProgressEvent_getReplayVideoTime, &IoConnect::requestReplayVideoTimeFailMsg>(
-        link, event);
-    const auto& sent = eventCast<ProgressEvent_getReplayVideoTime>(event);
-    emit link->requestReplayVideoTimeSuccessMsg(sent.channel);
-}
-
-// The channel is connected whether or not it could be asked for its version.
-void takeChannelVersion(IoConnect* link, QEvent* event)
-{
-    const auto& sent = eventCast<ProgressEvent_getChannelVersion>(event);
-    sent.channel->stopIoTimer();
-    emit link->connectChannelSuccessMsg(sent.channel);
-}
-
-void takePtz(IoConnect* link, QEvent* event)
-{
-    takeSent<ProgressEvent_ptz, &IoConnect::ptzFailMsg>(link, event);
-    const auto& sent = eventCast<ProgressEvent_ptz>(event);
-    if (sent.result >= 0)
-        emit link->ptzSuccessMsg(sent.channel, sent.value);
-}
-
-void takeSetTime(IoConnect* link, QEvent* event)
-{
-    takeSent<ProgressEvent_setTime, &IoConnect::setTimeFailMsg>(link, event);
-    const auto& sent = eventCast<ProgressEvent_setTime>(event);
-    if (sent.result >= 0)
-        emit link->setTimeSuccessMsg(sent.channel);
-}
-
-void takeQuality(IoConnect* link, QEvent* event)
-{
-    takeSent<ProgressEvent_getQuality, &IoConnect::getQualityFailMsg>(link, event);
-    const auto& sent = eventCast<ProgressEvent_getQuality>(event);
-    if (sent.result >= 0)
-        qDebug().nospace() << "send get quality success:" << sent.channel->number();
-}
-
-void emitSearchFailure(IoConnect* link, int result)
-{
-    if (result < 0)
-        emit link->startLANSearchFailMsg(result, ErrorMsg::p2pError(result));
-}
-
-void takeLanSearch(IoConnect* link, QEvent* event)
-{
-    emitSearchFailure(link, eventCast<ProgressEvent_LanSearch>(event).count);
-}
-
-void takeLanSearchStart(IoConnect* link, QEvent* event)
-{
-    emitSearchFailure(link, eventCast<ProgressEvent_LanSearchStart>(event).result);
-}
-
-const Row rows[] = {
-    {ProgressEvent_LanSearch::number, takeLanSearch},
-    {ProgressEvent_LanSearchStart::number, takeLanSearchStart},
-    sent<ProgressEvent_StopStream, &IoConnect::videoRequestStopFailMsg>(),
-    sent<ProgressEvent_StartStream, &IoConnect::videoRequestFailMsg>(),
-    {ProgressEvent_getReplayVideoTime::number, takeReplayVideoTime},
-    sent<ProgressEvent_playReplay, &IoConnect::startReplayControlFailMsg>(),
-    {ProgressEvent_playReplayIo::number, takeReplayIo},
-    sent<ProgressEvent_stopReplay, &IoConnect::stopReplayFailMsg>(),
-    sent<ProgressEvent_changeQuality, &IoConnect::setQualityFailMsg>(),
-    sent<ProgressEvent_audioControl, &IoConnect::audioControlFailMsg>(),
-    {ProgressEvent_ptz::number, takePtz},
-    {ProgressEvent_getChannelVersion::number, takeChannelVersion},
-    sent<ProgressEvent_pauseReplay, &IoConnect::pauseReplayFailMsg>(),
-    sent<ProgressEvent_stopPauseReplay, &IoConnect::startReplayFailMsg>(),
-    {ProgressEvent_setTime::number, takeSetTime},
-    sent<ProgressEvent_setTimeZone, &IoConnect::setTimeZoneFailMsg>(),
-    sent<ProgressEvent_changeReplayTime, &IoConnect::changeReplayTimeFailMsg>(),
-    sent<ProgressEvent_setWifi, &IoConnect::setWifiFailMsg>(),
-    sent<ProgressEvent_getWifiList, &IoConnect::getWifiListFailMsg>(),
-    sent<ProgressEvent_setPassword, &IoConnect::setPasswordFailMsg>(),
-    sent<ProgressEvent_getWifiConfig, &IoConnect::getWifiConfigFailMsg>(),
-    sent<ProgressEvent_getSmartSensitivity, &IoConnect::getSmartSensitivityFailMsg>(),
-    sent<ProgressEvent_getSmartMode, &IoConnect::getSmartModeFailMsg>(),
-    sent<ProgressEvent_getRotateMode, &IoConnect::getRotateModeFailMsg>(),
-    sent<ProgressEvent_getRecordMode, &IoConnect::getRecordModeFailMsg>(),
-    sent<ProgressEvent_setSmartSensitivity, &IoConnect::setSmartSensitivityFailMsg>(),
-    sent<ProgressEvent_sendSmartMode, &IoConnect::setSmartModeFailMsg>(),
-    sent<ProgressEvent_sendRotateMode, &IoConnect::setRotateModeFailMsg>(),
-    sent<ProgressEvent_sendRecordMode, &IoConnect::sendRecordModeFailMsg>(),
-    {ProgressEvent_getQuality::number, takeQuality},
-};
 
 IoConnect* theIoConnect = nullptr;
 
@@ -149,15 +31,195 @@ IoConnect::IoConnect()
     if (theIoConnect != nullptr)
         return;
     theIoConnect = this;
+    audioSend_ = AudioSend::instance();
+    lanTimer_.setSingleShot(true);
+    QObject::connect(&lanTimer_, &QTimer::timeout, this, &IoConnect::getLanSearchResult);
+
+    connect_ = std::make_unique<Connect>();
+    const Connect* sessions = connect_.get();
+    QObject::connect(sessions, &Connect::tutkInitSuccessMsg, this, &IoConnect::tutkInitSuccessMsg);
+    QObject::connect(sessions, &Connect::tutkInitFailMsg, this, &IoConnect::tutkInitFailMsg);
+    QObject::connect(
+        sessions, &Connect::connectChannelFailMsg, this, &IoConnect::connectChannelFail);
+    QObject::connect(
+        sessions, &Connect::connectChannelSuccessMsg, this, &IoConnect::connectChannelSuccess);
+    QObject::connect(sessions, &Connect::connectDevFailMsg, this, &IoConnect::connectDevFailMsg);
+    QObject::connect(
+        sessions, &Connect::connectDevSuccessMsg, this, &IoConnect::connectDevSuccessMsg);
 }
 
-bool IoConnect::event(QEvent* event)
+IoConnect::~IoConnect()
 {
-    for (const Row& row : rows) {
-        if (event->type() == row.number) {
-            row.take(this, event);
-            return true;
-        }
+    if (theIoConnect == this)
+        theIoConnect = nullptr;
+}
+
+void IoConnect::connect(Channel* channel)
+{
+    connect_->connect(channel);
+}
+
+void IoConnect::connectChannel(Channel* channel, unsigned char channelId, bool isLive)
+{
+    connect_->connectChannel(channel, channelId, isLive);
+}
+
+void IoConnect::connectChannelFail(Channel* channel, bool isLive, int result, const QString& text)
+{
+    if (isLive)
+        emit connectChannelFailMsg(channel, result, text);
+    else
+        emit startReplayFailMsg(channel, result, text);
+}
+
+void IoConnect::connectChannelSuccess(Channel* channel, bool isLive)
+{
+    if (isLive) {
+        receiveMessages(channel);
+        getChannelVersion(channel);
+        getQuality(channel);
+        getPtz(channel);
+    } else {
+        channel->mode(false).playing = true;
+        if (channel->replayPending)
+            changeReplayTime(channel, channel->replayOffset);
+        emit startReplaySuccessMsg(channel);
     }
-    return QObject::event(event);
+}
+
+void IoConnect::disConnectDevice(Device* device)
+{
+    if (device->sid < 0)
+        return;
+    for (int i = 0; i < device->channelCount(); ++i) {
+        const int avIndex = device->channel(i)->mode(true).avIndex;
+        if (avIndex >= 0)
+            avSendIOCtrlExit(avIndex);
+    }
+    IOTC_Session_Close(device->sid); // and with it its AV channels
+    device->sid = -1;
+    for (int i = 0; i < device->channelCount(); ++i) {
+        Channel* channel = device->channel(i);
+        endTalkBack(channel);
+        endStream(channel, true);
+        emit videoRequestStopSuccessMsg(channel);
+        endStream(channel, false);
+        emit stopReplaySuccessMsg(channel);
+    }
+    qDebug("disConnectDevice");
+}
+
+void IoConnect::disConnectDevice(Channel* channel)
+{
+    disConnectDevice(channel->device());
+}
+
+void IoConnect::endStream(Channel* channel, bool isLive)
+{
+    ChannelMode& mode = channel->mode(isLive);
+    mode.open = false;
+    mode.playing = false;
+    ViewControl::instance()->setRecord(channel, false);
+    Decode::instance()->removeStream(channel, isLive);
+    mode.avIndex = -1;
+}
+
+// The speech server has ended with the session, and its index may soon be another channel's, which
+// must not hear what is said here.
+void IoConnect::endTalkBack(Channel* channel)
+{
+    channel->talkIndex = -1;
+    if (!channel->speaking)
+        return;
+    channel->speaking = false;
+    audioSend_->stop();
+}
+
+// A channel has one receiver: one that still asks goes on, with the new AV channel. Those that have
+// ended make room here.
+void IoConnect::receiveMessages(Channel* channel)
+{
+    const QList<GetMsg*> receivers = findChildren<GetMsg*>(QString(), Qt::FindDirectChildrenOnly);
+    for (GetMsg* receiver : receivers) {
+        if (!receiver->isPolling())
+            delete receiver;
+        else if (receiver->channel() == channel)
+            return;
+    }
+    auto* receiver = new GetMsg(this);
+    receiver->setChannel(channel);
+    relay(receiver);
+}
+
+void IoConnect::relay(GetMsg* receiver)
+{
+    const auto pass = [this, receiver](auto from, auto to) {
+        QObject::connect(receiver, from, this, to, Qt::DirectConnection);
+    };
+    pass(&GetMsg::receiveVideoTimeMsg, &IoConnect::receiveVideoTimeMsg);
+    pass(&GetMsg::finishVideoTimeMsg, &IoConnect::finishVideoTimeMsg);
+    pass(&GetMsg::receiveVideoTimeEmptyMsg, &IoConnect::receiveVideoTimeEmptyMsg);
+    pass(&GetMsg::changeQualitySuccessMsg, &IoConnect::changeQualitySuccessMsg);
+    pass(&GetMsg::getChannelInfoMsg, &IoConnect::getChannelInfoMsg);
+    pass(&GetMsg::setTimeZoneSuccessMsg, &IoConnect::setTimeZoneSuccessMsg);
+    pass(&GetMsg::setTimeZoneFailMsg, &IoConnect::setTimeZoneFailMsg);
+    pass(&GetMsg::changeReplayTimeSuccessMsg, &IoConnect::changeReplayTimeSuccessMsg);
+    pass(&GetMsg::changeReplayTimeFailMsg, &IoConnect::changeReplayTimeFailMsg);
+    pass(&GetMsg::startReplayFailMsg, &IoConnect::startReplayFailMsg);
+    pass(&GetMsg::setWifiSuccessMsg, &IoConnect::setWifiSuccessMsg);
+    pass(&GetMsg::setWifiFailMsg, &IoConnect::setWifiFailMsg);
+    pass(&GetMsg::setPasswordSuccessMsg, &IoConnect::setPasswordSuccessMsg);
+    pass(&GetMsg::setPasswordFailMsg, &IoConnect::setPasswordFailMsg);
+    pass(&GetMsg::getWifiListSuccessMsg, &IoConnect::getWifiListSuccessMsg);
+    pass(&GetMsg::getWifiConfigSuccessMsg, &IoConnect::getWifiConfigSuccessMsg);
+    pass(&GetMsg::getSmartSensitivitySuccessMsg, &IoConnect::getSmartSensitivitySuccessMsg);
+    pass(&GetMsg::getSmartModeSuccessMsg, &IoConnect::getSmartModeSuccessMsg);
+    pass(&GetMsg::getRotateModeSuccessMsg, &IoConnect::getRotateModeSuccessMsg);
+    pass(&GetMsg::getRecordModeSuccessMsg, &IoConnect::getRecordModeSuccessMsg);
+    pass(&GetMsg::setSmartSensitivitySuccessMsg, &IoConnect::setSmartSensitivitySuccessMsg);
+    pass(&GetMsg::setSmartSensitivityFailMsg, &IoConnect::setSmartSensitivityFailMsg);
+    pass(&GetMsg::setSmartModeSuccessMsg, &IoConnect::setSmartModeSuccessMsg);
+    pass(&GetMsg::setSmartModeFailMsg, &IoConnect::setSmartModeFailMsg);
+    pass(&GetMsg::setRecordModeSuccessMsg, &IoConnect::setRecordModeSuccessMsg);
+    pass(&GetMsg::getPtzMsg, &IoConnect::getPtzMsg);
+}
+
+void IoConnect::armIoTimer(Channel* channel)
+{
+    QObject::connect(channel->ioTimer(), &ChannelSaveTimeout::timeout, this,
+        &IoConnect::ioControlTimeout, Qt::UniqueConnection);
+    channel->startIoTimer();
+}
+
+void IoConnect::ioControlTimeout(Channel* channel)
+{
+    avSendIOCtrlExit(channel->mode(true).avIndex);
+}
+
+void IoConnect::run(Channel* channel, Work work)
+{
+    {
+        const std::lock_guard lock(commandsMutex_);
+        commands_.push_back({ChannelHold(channel), std::move(work)});
+    }
+    runTask(channel, [this] { runNextCommand(); });
+}
+
+// Whichever task gets the mutex first takes the oldest command: a mutex alone keeps no order, and
+// the stop of a moving camera must not be overtaken.
+void IoConnect::runNextCommand()
+{
+    const QMutexLocker lock(&mutex_);
+    Command command;
+    {
+        const std::lock_guard listLock(commandsMutex_);
+        command = std::move(commands_.front());
+        commands_.pop_front();
+    }
+    command.work();
+}
+
+int IoConnect::sendMessage(Channel* channel, unsigned type, const QByteArray& message)
+{
+    return avSendIOCtrl(channel->mode(true).avIndex, type, message.constData(), message.size());
 }

@@ -75,3 +75,18 @@ QString deviceChannelText(const QString& model)
         return model.right(1);
     return model.section(dash, 1, 1);
 }
+
+QString lanTypeText(const QString& model)
+{
+    if (model.contains(ipc, Qt::CaseInsensitive))
+        return ipc;
+    const Kind* kind = findKind(kindDigits(model));
+    return kind != nullptr ? QString::fromLatin1(kind->name) : QString();
+}
+
+QString lanChannelText(const QString& model)
+{
+    if (model.contains(ipc, Qt::CaseInsensitive))
+        return model.right(1);
+    return model.section(dash, 1, 1);
+}

@@ -17,3 +17,8 @@ int deviceTypeCode(const QString& model);
 
 // The number of channels as the text has it; empty where it tells none.
 QString deviceChannelText(const QString& model);
+
+// What the table of the search on the local network shows. They differ from the two above in that
+// "IPC" counts in small letters too, and that no unknown kind shows.
+QString lanTypeText(const QString& model);
+QString lanChannelText(const QString& model);

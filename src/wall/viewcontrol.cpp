@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "wall/viewcontrol.h"
+
+#include "link/ioconnect.h"
+#include "model/channel.h"
+#include "store/location.h"
+
+namespace {
+
+ViewControl* theViewControl = nullptr;
+
+} // namespace
+
+ViewControl* ViewControl::instance()
+{
+    if (theViewControl == nullptr)
+        new ViewControl; // stores itself
+    return theViewControl;
+}
+
+ViewControl::ViewControl()
+{
+    if (theViewControl == nullptr)
+        theViewControl = this;
+}
+
+ViewControl::~ViewControl()
+{
+    if (theViewControl == this)
+        theViewControl = nullptr;
+}
+
+void ViewControl::setRecord(Channel* channel, bool isRecord)
+{
+    constexpr int msPerMinute = 60000;
+    channel->setRecord(isRecord, isLive_);
+    if (isRecord) {
+        channel->setRecordTimer(Location::instance()->getTimeLength() * msPerMinute, isLive_);
+        connect(channel->mode(isLive_).recordTimer.get(), &ChannelSaveTimeout::timeout, this,
+            &ViewControl::stopSaveRecord);
+    } else {
+        channel->removeRecordTimer(isLive_);
+    }
+    emit recordMsg(channel, isRecord);
+}
+
+bool ViewControl::getNextBlock(QDateTime*) const
+{
+    return false; // the timeline holds no blocks yet
+}
+
+void ViewControl::closeDevice(Device* device)
+{
+    IoConnect::instance()->disConnectDevice(device);
+}
+
+void ViewControl::stopSaveRecord(Channel* channel)
+{
+    channel->setRecord(false, isLive_);
+    emit recordMsg(channel, false);
+}

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QDateTime>
+#include <QObject>
+
+class Channel;
+class Device;
+
+// The model of the video wall. Singleton, main thread; lives to the end of the process.
+//
+// It has no tiles and no timeline yet, only what the device link asks of it. Virtual so that a test
+// of the link can stand in: the first object is the singleton.
+class ViewControl : public QObject
+{
+    Q_OBJECT
+
+public:
+    static ViewControl* instance();
+
+    ViewControl();
+    ~ViewControl() override;
+    Q_DISABLE_COPY_MOVE(ViewControl)
+
+    // The mode of the whole program: true is live view, false is remote playback.
+    virtual bool getIsLive() const { return isLive_; }
+
+    // Starts or stops recording the channel in the current mode.
+    virtual void setRecord(Channel* channel, bool isRecord);
+
+    // The start of the next recorded block at or after the point of the timeline; false where there
+    // is none, and *out stays as it was.
+    virtual bool getNextBlock(QDateTime* out) const;
+
+    // Disconnects the device and takes its channels off the wall.
+    virtual void closeDevice(Device* device);
+
+signals:
+    void recordMsg(Channel* channel, bool isRecord);
+
+private:
+    void stopSaveRecord(Channel* channel);
+
+    bool isLive_ = true;
+};
