@@ -763,6 +763,52 @@
     </message>
 </context>
 <context>
+    <name>GetMsg</name>
+    <message>
+        <source>no record has been found</source>
+        <translation>Es wurde keine Aufzeichnung gefunden</translation>
+    </message>
+    <message>
+        <source>Failed to configure the senitivity of smart detection</source>
+        <translation>Die Empfindlichkeit der intelligenten Erkennung konnte nicht eingestellt werden</translation>
+    </message>
+    <message>
+        <source>Failed to configure password</source>
+        <translation>Das Passwort konnte nicht geändert werden</translation>
+    </message>
+    <message>
+        <source>Playback video data does not exist.</source>
+        <translation>Zu diesem Zeitpunkt gibt es keine Aufzeichnung.</translation>
+    </message>
+    <message>
+        <source>Failed to configure wireless network</source>
+        <translation>Das WLAN konnte nicht eingerichtet werden</translation>
+    </message>
+    <message>
+        <source>Does not support simultaneous remote playback.</source>
+        <translation>Gleichzeitige Wiedergabe mehrerer Kanäle wird nicht unterstützt.</translation>
+    </message>
+    <message>
+        <source>Device cannot modify time zone</source>
+        <translation>Das Gerät kann die Zeitzone nicht ändern</translation>
+    </message>
+    <message>
+        <source>Failed to configure the mode of smart detection</source>
+        <translation>Der Modus der intelligenten Erkennung konnte nicht eingestellt werden</translation>
+    </message>
+</context>
+<context>
+    <name>IoConnect</name>
+    <message>
+        <source>Not Found Input Device.</source>
+        <translation>Kein Eingabegerät gefunden.</translation>
+    </message>
+    <message>
+        <source>no record has been found</source>
+        <translation>Es wurde keine Aufzeichnung gefunden</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Debug Record</source>

@@ -763,6 +763,52 @@
     </message>
 </context>
 <context>
+    <name>GetMsg</name>
+    <message>
+        <source>no record has been found</source>
+        <translation>no record has been found</translation>
+    </message>
+    <message>
+        <source>Failed to configure the senitivity of smart detection</source>
+        <translation>Failed to configure the senitivity of smart detection</translation>
+    </message>
+    <message>
+        <source>Failed to configure password</source>
+        <translation>Failed to configure password</translation>
+    </message>
+    <message>
+        <source>Playback video data does not exist.</source>
+        <translation>Playback video data does not exist.</translation>
+    </message>
+    <message>
+        <source>Failed to configure wireless network</source>
+        <translation>Failed to configure wireless network</translation>
+    </message>
+    <message>
+        <source>Does not support simultaneous remote playback.</source>
+        <translation>Does not support simultaneous remote playback.</translation>
+    </message>
+    <message>
+        <source>Device cannot modify time zone</source>
+        <translation>Device cannot modify time zone</translation>
+    </message>
+    <message>
+        <source>Failed to configure the mode of smart detection</source>
+        <translation>Failed to configure the mode of smart detection</translation>
+    </message>
+</context>
+<context>
+    <name>IoConnect</name>
+    <message>
+        <source>Not Found Input Device.</source>
+        <translation>Not Found Input Device.</translation>
+    </message>
+    <message>
+        <source>no record has been found</source>
+        <translation>no record has been found</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Debug Record</source>

@@ -763,6 +763,52 @@
     </message>
 </context>
 <context>
+    <name>GetMsg</name>
+    <message>
+        <source>no record has been found</source>
+        <translation>No se ha encontrado ninguna grabación</translation>
+    </message>
+    <message>
+        <source>Failed to configure the senitivity of smart detection</source>
+        <translation>No se pudo configurar la sensibilidad de la detección inteligente</translation>
+    </message>
+    <message>
+        <source>Failed to configure password</source>
+        <translation>No se pudo configurar la contraseña</translation>
+    </message>
+    <message>
+        <source>Playback video data does not exist.</source>
+        <translation>No existen datos de vídeo para reproducir.</translation>
+    </message>
+    <message>
+        <source>Failed to configure wireless network</source>
+        <translation>No se pudo configurar la red inalámbrica</translation>
+    </message>
+    <message>
+        <source>Does not support simultaneous remote playback.</source>
+        <translation>No admite la reproducción remota simultánea.</translation>
+    </message>
+    <message>
+        <source>Device cannot modify time zone</source>
+        <translation>El dispositivo no puede cambiar la zona horaria</translation>
+    </message>
+    <message>
+        <source>Failed to configure the mode of smart detection</source>
+        <translation>No se pudo configurar el modo de detección inteligente</translation>
+    </message>
+</context>
+<context>
+    <name>IoConnect</name>
+    <message>
+        <source>Not Found Input Device.</source>
+        <translation>No se ha encontrado ningún dispositivo de entrada.</translation>
+    </message>
+    <message>
+        <source>no record has been found</source>
+        <translation>No se ha encontrado ninguna grabación</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Debug Record</source>

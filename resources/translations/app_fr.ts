@@ -763,6 +763,52 @@
     </message>
 </context>
 <context>
+    <name>GetMsg</name>
+    <message>
+        <source>no record has been found</source>
+        <translation>Aucun enregistrement n&apos;a été trouvé</translation>
+    </message>
+    <message>
+        <source>Failed to configure the senitivity of smart detection</source>
+        <translation>Échec du réglage de la sensibilité de la détection intelligente</translation>
+    </message>
+    <message>
+        <source>Failed to configure password</source>
+        <translation>Échec de la configuration du mot de passe</translation>
+    </message>
+    <message>
+        <source>Playback video data does not exist.</source>
+        <translation>Aucune vidéo à lire n&apos;existe à ce moment.</translation>
+    </message>
+    <message>
+        <source>Failed to configure wireless network</source>
+        <translation>Échec de la configuration du réseau sans fil</translation>
+    </message>
+    <message>
+        <source>Does not support simultaneous remote playback.</source>
+        <translation>La lecture à distance simultanée n&apos;est pas prise en charge.</translation>
+    </message>
+    <message>
+        <source>Device cannot modify time zone</source>
+        <translation>L&apos;appareil ne peut pas modifier le fuseau horaire</translation>
+    </message>
+    <message>
+        <source>Failed to configure the mode of smart detection</source>
+        <translation>Échec du réglage du mode de détection intelligente</translation>
+    </message>
+</context>
+<context>
+    <name>IoConnect</name>
+    <message>
+        <source>Not Found Input Device.</source>
+        <translation>Aucun périphérique d&apos;entrée trouvé.</translation>
+    </message>
+    <message>
+        <source>no record has been found</source>
+        <translation>Aucun enregistrement n&apos;a été trouvé</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Debug Record</source>

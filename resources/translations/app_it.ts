@@ -763,6 +763,52 @@
     </message>
 </context>
 <context>
+    <name>GetMsg</name>
+    <message>
+        <source>no record has been found</source>
+        <translation>Nessuna registrazione trovata</translation>
+    </message>
+    <message>
+        <source>Failed to configure the senitivity of smart detection</source>
+        <translation>Impossibile configurare la sensibilità del rilevamento intelligente</translation>
+    </message>
+    <message>
+        <source>Failed to configure password</source>
+        <translation>Impossibile configurare la password</translation>
+    </message>
+    <message>
+        <source>Playback video data does not exist.</source>
+        <translation>Non esistono dati video da riprodurre.</translation>
+    </message>
+    <message>
+        <source>Failed to configure wireless network</source>
+        <translation>Impossibile configurare la rete wireless</translation>
+    </message>
+    <message>
+        <source>Does not support simultaneous remote playback.</source>
+        <translation>La riproduzione remota simultanea non è supportata.</translation>
+    </message>
+    <message>
+        <source>Device cannot modify time zone</source>
+        <translation>Il dispositivo non può modificare il fuso orario</translation>
+    </message>
+    <message>
+        <source>Failed to configure the mode of smart detection</source>
+        <translation>Impossibile configurare la modalità del rilevamento intelligente</translation>
+    </message>
+</context>
+<context>
+    <name>IoConnect</name>
+    <message>
+        <source>Not Found Input Device.</source>
+        <translation>Nessun dispositivo di ingresso trovato.</translation>
+    </message>
+    <message>
+        <source>no record has been found</source>
+        <translation>Nessuna registrazione trovata</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Debug Record</source>

@@ -763,6 +763,52 @@
     </message>
 </context>
 <context>
+    <name>GetMsg</name>
+    <message>
+        <source>no record has been found</source>
+        <translation>録画が見つかりませんでした</translation>
+    </message>
+    <message>
+        <source>Failed to configure the senitivity of smart detection</source>
+        <translation>スマート検知の感度を設定できませんでした</translation>
+    </message>
+    <message>
+        <source>Failed to configure password</source>
+        <translation>パスワードを設定できませんでした</translation>
+    </message>
+    <message>
+        <source>Playback video data does not exist.</source>
+        <translation>再生する録画データがありません。</translation>
+    </message>
+    <message>
+        <source>Failed to configure wireless network</source>
+        <translation>無線ネットワークを設定できませんでした</translation>
+    </message>
+    <message>
+        <source>Does not support simultaneous remote playback.</source>
+        <translation>複数チャンネルの同時リモート再生には対応していません。</translation>
+    </message>
+    <message>
+        <source>Device cannot modify time zone</source>
+        <translation>デバイスはタイムゾーンを変更できません</translation>
+    </message>
+    <message>
+        <source>Failed to configure the mode of smart detection</source>
+        <translation>スマート検知のモードを設定できませんでした</translation>
+    </message>
+</context>
+<context>
+    <name>IoConnect</name>
+    <message>
+        <source>Not Found Input Device.</source>
+        <translation>入力デバイスが見つかりません。</translation>
+    </message>
+    <message>
+        <source>no record has been found</source>
+        <translation>録画が見つかりませんでした</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Debug Record</source>

@@ -763,6 +763,52 @@
     </message>
 </context>
 <context>
+    <name>GetMsg</name>
+    <message>
+        <source>no record has been found</source>
+        <translation>Er is geen opname gevonden</translation>
+    </message>
+    <message>
+        <source>Failed to configure the senitivity of smart detection</source>
+        <translation>De gevoeligheid van de slimme detectie kon niet worden ingesteld</translation>
+    </message>
+    <message>
+        <source>Failed to configure password</source>
+        <translation>Het wachtwoord kon niet worden ingesteld</translation>
+    </message>
+    <message>
+        <source>Playback video data does not exist.</source>
+        <translation>Er bestaan geen videogegevens om af te spelen.</translation>
+    </message>
+    <message>
+        <source>Failed to configure wireless network</source>
+        <translation>Het draadloze netwerk kon niet worden ingesteld</translation>
+    </message>
+    <message>
+        <source>Does not support simultaneous remote playback.</source>
+        <translation>Gelijktijdig op afstand afspelen wordt niet ondersteund.</translation>
+    </message>
+    <message>
+        <source>Device cannot modify time zone</source>
+        <translation>Het apparaat kan de tijdzone niet wijzigen</translation>
+    </message>
+    <message>
+        <source>Failed to configure the mode of smart detection</source>
+        <translation>De modus van de slimme detectie kon niet worden ingesteld</translation>
+    </message>
+</context>
+<context>
+    <name>IoConnect</name>
+    <message>
+        <source>Not Found Input Device.</source>
+        <translation>Geen invoerapparaat gevonden.</translation>
+    </message>
+    <message>
+        <source>no record has been found</source>
+        <translation>Er is geen opname gevonden</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Debug Record</source>

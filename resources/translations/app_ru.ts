@@ -763,6 +763,52 @@
     </message>
 </context>
 <context>
+    <name>GetMsg</name>
+    <message>
+        <source>no record has been found</source>
+        <translation>Записи не найдены</translation>
+    </message>
+    <message>
+        <source>Failed to configure the senitivity of smart detection</source>
+        <translation>Не удалось настроить чувствительность интеллектуального обнаружения</translation>
+    </message>
+    <message>
+        <source>Failed to configure password</source>
+        <translation>Не удалось изменить пароль</translation>
+    </message>
+    <message>
+        <source>Playback video data does not exist.</source>
+        <translation>Видеоданные для воспроизведения отсутствуют.</translation>
+    </message>
+    <message>
+        <source>Failed to configure wireless network</source>
+        <translation>Не удалось настроить беспроводную сеть</translation>
+    </message>
+    <message>
+        <source>Does not support simultaneous remote playback.</source>
+        <translation>Одновременное удалённое воспроизведение не поддерживается.</translation>
+    </message>
+    <message>
+        <source>Device cannot modify time zone</source>
+        <translation>Устройство не может изменить часовой пояс</translation>
+    </message>
+    <message>
+        <source>Failed to configure the mode of smart detection</source>
+        <translation>Не удалось настроить режим интеллектуального обнаружения</translation>
+    </message>
+</context>
+<context>
+    <name>IoConnect</name>
+    <message>
+        <source>Not Found Input Device.</source>
+        <translation>Устройство ввода не найдено.</translation>
+    </message>
+    <message>
+        <source>no record has been found</source>
+        <translation>Записи не найдены</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Debug Record</source>

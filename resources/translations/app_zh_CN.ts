@@ -763,6 +763,52 @@
     </message>
 </context>
 <context>
+    <name>GetMsg</name>
+    <message>
+        <source>no record has been found</source>
+        <translation>未找到录像</translation>
+    </message>
+    <message>
+        <source>Failed to configure the senitivity of smart detection</source>
+        <translation>智能侦测灵敏度设置失败</translation>
+    </message>
+    <message>
+        <source>Failed to configure password</source>
+        <translation>密码设置失败</translation>
+    </message>
+    <message>
+        <source>Playback video data does not exist.</source>
+        <translation>回放录像数据不存在。</translation>
+    </message>
+    <message>
+        <source>Failed to configure wireless network</source>
+        <translation>无线网络设置失败</translation>
+    </message>
+    <message>
+        <source>Does not support simultaneous remote playback.</source>
+        <translation>不支持同时远程回放。</translation>
+    </message>
+    <message>
+        <source>Device cannot modify time zone</source>
+        <translation>设备无法修改时区</translation>
+    </message>
+    <message>
+        <source>Failed to configure the mode of smart detection</source>
+        <translation>智能侦测模式设置失败</translation>
+    </message>
+</context>
+<context>
+    <name>IoConnect</name>
+    <message>
+        <source>Not Found Input Device.</source>
+        <translation>未找到输入设备。</translation>
+    </message>
+    <message>
+        <source>no record has been found</source>
+        <translation>未找到录像</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Debug Record</source>

@@ -763,6 +763,52 @@
     </message>
 </context>
 <context>
+    <name>GetMsg</name>
+    <message>
+        <source>no record has been found</source>
+        <translation>找不到錄影</translation>
+    </message>
+    <message>
+        <source>Failed to configure the senitivity of smart detection</source>
+        <translation>智能偵測靈敏度設定失敗</translation>
+    </message>
+    <message>
+        <source>Failed to configure password</source>
+        <translation>密碼設定失敗</translation>
+    </message>
+    <message>
+        <source>Playback video data does not exist.</source>
+        <translation>重播錄影資料不存在。</translation>
+    </message>
+    <message>
+        <source>Failed to configure wireless network</source>
+        <translation>無線網絡設定失敗</translation>
+    </message>
+    <message>
+        <source>Does not support simultaneous remote playback.</source>
+        <translation>不支援同時遠端重播。</translation>
+    </message>
+    <message>
+        <source>Device cannot modify time zone</source>
+        <translation>裝置無法修改時區</translation>
+    </message>
+    <message>
+        <source>Failed to configure the mode of smart detection</source>
+        <translation>智能偵測模式設定失敗</translation>
+    </message>
+</context>
+<context>
+    <name>IoConnect</name>
+    <message>
+        <source>Not Found Input Device.</source>
+        <translation>找不到輸入裝置。</translation>
+    </message>
+    <message>
+        <source>no record has been found</source>
+        <translation>找不到錄影</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Debug Record</source>
