@@ -138,6 +138,15 @@ double scatter(int a, int b)
     return wave - std::floor(wave);
 }
 
+std::vector<double> places(double from, double end, double step)
+{
+    const double count = std::max(0.0, std::ceil((end - from) / step));
+    std::vector<double> all(static_cast<std::size_t>(count));
+    for (std::size_t i = 0; i < all.size(); ++i)
+        all[i] = from + static_cast<double>(i) * step;
+    return all;
+}
+
 Clothes makeClothes(const Look& look, int number)
 {
     constexpr std::array<Colour, 4> trousers{

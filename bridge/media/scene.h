@@ -6,6 +6,7 @@
 
 #include <array>
 #include <memory>
+#include <vector>
 
 // Colours and light of a scene: the same place looks different on another channel.
 struct Look
@@ -61,6 +62,8 @@ double phase(double seconds, double period, double offset = 0);
 double ease(double x, double from, double to);
 // The same for the same numbers, 0 to 1, and without visible pattern.
 double scatter(int a, int b = 0);
+// `from`, `from + step` and so on, as far as they lie before `end`.
+std::vector<double> places(double from, double end, double step);
 Clothes makeClothes(const Look& look, int number);
 // Rows of windows on an upright wall from `left` to `right`, whose foot these are.
 void drawWindows(Painter& painter, Vec3 left, Vec3 right, double height, int floors, int columns,

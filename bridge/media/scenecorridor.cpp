@@ -76,7 +76,7 @@ void Corridor::drawStill(Painter& painter, double) const
 
 void Corridor::drawShell(Painter& painter) const
 {
-    for (double y = -1; y < depth; y += 2.5) {
+    for (const double y : places(-1, depth, 2.5)) {
         const double to = std::min(depth, y + 2.5);
         painter.face({{-half, y, 0}, {half, y, 0}, {half, to, 0}, {-half, to, 0}}, inside_.floor);
         painter.face(
@@ -89,7 +89,7 @@ void Corridor::drawShell(Painter& painter) const
             painter.face({{x, y, 0}, {x, to, 0}, {x, to, 0.1}, {x, y, 0.1}}, inside_.band * 0.6);
         }
     }
-    for (double y = -1; y < depth; y += 1.25)
+    for (const double y : places(-1, depth, 1.25))
         painter.glow({{-half, y, 0}, {half, y, 0}, {half, y + 0.02, 0}, {-half, y + 0.02, 0}},
             inside_.floor * 0.75, 0.5);
     for (const double x : {-0.63, 0.63})
@@ -99,7 +99,7 @@ void Corridor::drawShell(Painter& painter) const
 
 void Corridor::drawLamps(Painter& painter) const
 {
-    for (double y = 2.5; y < depth - 1; y += 4.5) {
+    for (const double y : places(2.5, depth - 1, 4.5)) {
         painter.glow({{-0.7, y, ceiling - 0.01}, {0.7, y, ceiling - 0.01},
                          {0.7, y + 1.3, ceiling - 0.01}, {-0.7, y + 1.3, ceiling - 0.01}},
             rgb(0xffffff));

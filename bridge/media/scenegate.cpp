@@ -96,11 +96,11 @@ void Gate::drawDrive(Painter& painter) const
     drawGround(painter, -60, 8.85, 60, 9.1, rgb(0xdedbd3));
     drawGround(
         painter, -gateHalf + 0.2, 9, gateHalf - 0.2, 41, mix(look_.pavement, look_.asphalt, 0.45));
-    for (double y = 10; y < 40; y += 1.5)
+    for (const double y : places(10, 40, 1.5))
         painter.glow({{-gateHalf + 0.2, y, 0}, {gateHalf - 0.2, y, 0},
                          {gateHalf - 0.2, y + 0.06, 0}, {-gateHalf + 0.2, y + 0.06, 0}},
             look_.asphalt * 0.7, 0.5);
-    for (double x = -58; x < 58; x += 4)
+    for (const double x : places(-58, 58, 4))
         painter.glow({{x, 3.2, 0}, {x + 2, 3.2, 0}, {x + 2, 3.35, 0}, {x, 3.35, 0}}, rgb(0xe8ebec),
             look_.lamps > 0 ? 0.4 : 0.8);
 }
@@ -164,7 +164,7 @@ void Gate::drawBars(Painter& painter, double open) const
     const double y = wallY - 0.25;
     const double left = -gateHalf + shift;
     const double right = gateHalf + shift;
-    for (double x = left + 0.15; x < right; x += 0.34)
+    for (const double x : places(left + 0.15, right, 0.34))
         painter.rod({x, y, 0.25}, {x, y, 1.95}, 0.06, iron);
     for (const double z : {0.25, 1.15, 1.95})
         painter.rod({left, y, z}, {right, y, z}, 0.11, iron);

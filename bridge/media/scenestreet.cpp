@@ -64,18 +64,18 @@ void Street::drawRoad(Painter& painter) const
     for (const double kerb : {leftKerb, rightKerb}) {
         drawGround(painter, kerb - 0.16, -8, kerb + 0.16, farEnd, rgb(0xdedbd3));
     }
-    for (double y = -6; y < farEnd; y += 6)
+    for (const double y : places(-6, farEnd, 6))
         painter.glow({{-0.08, y, 0}, {0.08, y, 0}, {0.08, y + 3, 0}, {-0.08, y + 3, 0}},
             mix(look_.asphalt, rgb(0xffffff), look_.lamps > 0 ? 0.35 : 0.75));
     drawCrossing(painter);
-    for (double y = 9; y < 64; y += 7.4)
+    for (const double y : places(9, 64, 7.4))
         painter.glow({{4.4, y, 0}, {rightKerb, y, 0}, {rightKerb, y + 0.12, 0}, {4.4, y + 0.12, 0}},
             rgb(0xdfe3e6), 0.6);
 }
 
 void Street::drawCrossing(Painter& painter) const
 {
-    for (double x = leftKerb + 0.5; x < rightKerb - 0.5; x += 1.05)
+    for (const double x : places(leftKerb + 0.5, rightKerb - 0.5, 1.05))
         painter.glow({{x, 24.6, 0}, {x + 0.55, 24.6, 0}, {x + 0.55, 28, 0}, {x, 28, 0}},
             rgb(0xe8ebec), look_.lamps > 0 ? 0.45 : 0.85);
 }

@@ -54,7 +54,7 @@ void Yard::drawHall(Painter& painter) const
 {
     const Colour sheet = mix(look_.walls[(seed_ + 2) % look_.walls.size()], rgb(0xc4ccd3), 0.6);
     painter.box({}, {-36, hallY, 0}, {22, hallY + 30, 8.6}, sheet);
-    for (double x = -35.5; x < 22; x += 1.1)
+    for (const double x : places(-35.5, 22, 1.1))
         painter.glow({{x, hallY - 0.02, 1}, {x + 0.1, hallY - 0.02, 1},
                          {x + 0.1, hallY - 0.02, 8.5}, {x, hallY - 0.02, 8.5}},
             sheet * 0.62, 0.35);
@@ -94,7 +94,7 @@ void Yard::drawMarkings(Painter& painter) const
             {{x, 17, 0}, {x + 0.22, 17, 0}, {x + 0.22, hallY - 0.3, 0}, {x, hallY - 0.3, 0}},
             yellow, look_.lamps > 0 ? 0.5 : 0.85);
     }
-    for (double x = -30; x < 40; x += 3)
+    for (const double x : places(-30, 40, 3))
         painter.glow({{x, 8.2, 0}, {x + 1.6, 8.2, 0}, {x + 1.6, 8.4, 0}, {x, 8.4, 0}},
             rgb(0xeef0f1), look_.lamps > 0 ? 0.35 : 0.7);
 }
@@ -106,7 +106,7 @@ void Yard::drawContainers(Painter& painter) const
     const auto stack = [&](double x, double y, int level, int number) {
         const Colour colour = colours[(number + seed_) % colours.size()];
         painter.box({}, {x, y, level * 2.6}, {x + 6.1, y + 2.5, level * 2.6 + 2.55}, colour);
-        for (double rib = 0.4; rib < 6; rib += 0.55)
+        for (const double rib : places(0.4, 6, 0.55))
             painter.glow({{x + rib, y - 0.01, level * 2.6 + 0.2},
                              {x + rib + 0.14, y - 0.01, level * 2.6 + 0.2},
                              {x + rib + 0.14, y - 0.01, level * 2.6 + 2.35},

@@ -24,7 +24,8 @@ public:
         std::string bytes;
     };
 
-    explicit TestDevice(std::string uid, int channels = 4, LinkHostSettings settings = onLoopback())
+    explicit TestDevice(
+        std::string uid, int channels = 4, const LinkHostSettings& settings = onLoopback())
     {
         device_.uid = std::move(uid);
         device_.version = "C1.IPC-" + std::to_string(channels);

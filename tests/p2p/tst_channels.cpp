@@ -244,6 +244,7 @@ private slots:
         QVERIFY(link.ok());
         std::atomic<int> failures{0};
         std::vector<std::thread> threads;
+        threads.reserve(4);
         for (int t = 0; t < 4; ++t) {
             threads.emplace_back([&, t] {
                 for (int i = 0; i < 50; ++i) {

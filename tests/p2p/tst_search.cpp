@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <optional>
 
 namespace {
 
@@ -20,12 +21,12 @@ std::vector<IOTC_SearchRecord> results()
     return records;
 }
 
-const IOTC_SearchRecord* recordOf(
+std::optional<IOTC_SearchRecord> recordOf(
     const std::vector<IOTC_SearchRecord>& records, const std::string& uid)
 {
     const auto found = std::find_if(records.begin(), records.end(),
         [&](const IOTC_SearchRecord& record) { return uid == record.uid; });
-    return found == records.end() ? nullptr : &*found;
+    return found == records.end() ? std::nullopt : std::optional(*found);
 }
 
 } // namespace
@@ -46,8 +47,8 @@ private slots:
         QTest::qWait(200); // more answers come meanwhile
         const auto records = results();
         QCOMPARE(records.size(), std::size_t{2});
-        const IOTC_SearchRecord* record = recordOf(records, other.uid());
-        QVERIFY(record != nullptr);
+        const auto record = recordOf(records, other.uid());
+        QVERIFY(record);
         QCOMPARE(std::string(record->ip), std::string("127.0.0.1"));
         QCOMPARE(record->port, other.host().port());
         QCOMPARE(std::string(record->name), std::string("C1.IPC-8"));
@@ -102,7 +103,7 @@ private slots:
         QCOMPARE(IOTC_Search_Device_Start(2000, 50), 0);
         QTRY_COMPARE(results().size(), std::size_t{1});
         QTest::qWait(200);
-        QVERIFY(recordOf(results(), silent.uid()) == nullptr);
+        QVERIFY(!recordOf(results(), silent.uid()));
     }
 
     // Whoever sits on the network can send anything: only an answer to this search's own question,

@@ -286,6 +286,7 @@ private slots:
             QCOMPARE(IOTC_Connect_ByUID_ParallelNB(uid.c_str(), id, Reports::callback, &report), 0);
         }
         std::vector<int> results;
+        results.reserve(clients);
         for (Reports& report : reports)
             results.push_back(report.final());
         // Only now, since the reports must not go before the last is made.

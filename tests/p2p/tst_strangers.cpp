@@ -188,8 +188,10 @@ private slots:
         TestDevice device("REVIEWTESTDEVICE0013", 64);
         StrangeClient client(device.uid(), device.host().port());
         QVERIFY(client.openSession());
+        constexpr int guesses = 200;
         std::vector<SrtSocket> sockets;
-        for (int i = 0; i < 200; ++i)
+        sockets.reserve(guesses);
+        for (int i = 0; i < guesses; ++i)
             sockets.push_back(client.startChannel(i % 64, "a wrong passphrase"));
         int answered = 0;
         int locked = 0;
