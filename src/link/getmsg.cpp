@@ -161,7 +161,7 @@ void takeWifiList(const Message& message)
 
 void takeWifi(const Message& message)
 {
-    SMsgAVIoctrlGetWifiResp config = decodeWifi(message.buffer);
+    auto config = bodyOf<SMsgAVIoctrlGetWifiResp>(message.buffer);
     emit message.receiver->getWifiConfigSuccessMsg(message.channel, &config);
 }
 

@@ -14,12 +14,6 @@ void copyText(std::array<char, Size>& field, const QString& text)
     std::copy(bytes.begin(), bytes.end(), field.begin());
 }
 
-template <std::size_t Size>
-void terminate(std::array<char, Size>& text)
-{
-    text.back() = '\0';
-}
-
 quint8 byteOf(int value)
 {
     return static_cast<quint8>(value);
@@ -29,9 +23,11 @@ quint8 byteOf(int value)
 
 DeviceTime deviceTime(const QDateTime& time)
 {
+    DeviceTime result;
+    if (!time.isValid())
+        return result;
     const QDateTime utc = time.toUTC();
     const QDate date = utc.date();
-    DeviceTime result;
     result.year = static_cast<quint16>(date.year());
     result.month = byteOf(date.month());
     result.day = byteOf(date.day());
@@ -100,7 +96,7 @@ ListRecordsRequest listRecordsRequest(int channel, const QDate& day)
 {
     ListRecordsRequest request;
     request.channel = static_cast<quint32>(channel);
-    request.start = deviceTime(QDateTime(day, QTime(0, 0)));
+    request.start = deviceTime(day.startOfDay()); // not every day has a midnight
     request.end = deviceTime(QDateTime(day, QTime(23, 59, 59)));
     return request;
 }
@@ -168,15 +164,5 @@ SMsgAVIoctrlListWifiApResp decodeWifiList(const char* buffer, int size)
     constexpr int entry = sizeof(SWifiAp);
     const int received = std::clamp((size - head) / entry, 0, static_cast<int>(list.aps.size()));
     list.count = std::clamp(static_cast<int>(list.count), 0, received);
-    for (SWifiAp& ap : list.aps)
-        terminate(ap.ssid);
     return list;
-}
-
-SMsgAVIoctrlGetWifiResp decodeWifi(const char* buffer)
-{
-    auto config = bodyOf<SMsgAVIoctrlGetWifiResp>(buffer);
-    terminate(config.ssid);
-    terminate(config.password);
-    return config;
 }

@@ -8,6 +8,7 @@
 #include <QDateTime>
 #include <QString>
 
+#include <algorithm>
 #include <cstring>
 
 // Fills and reads the structures of messages.h. Pure functions, any thread. Texts are Latin-1, cut
@@ -21,7 +22,7 @@ QByteArray bytesOf(const Body& body)
     return QByteArray(reinterpret_cast<const char*>(&body), sizeof(Body));
 }
 
-DeviceTime deviceTime(const QDateTime& time);
+DeviceTime deviceTime(const QDateTime& time); // zeros for an invalid time
 // UTC; invalid where there is no such day or time of day.
 QDateTime dateTimeOf(const DeviceTime& time);
 
@@ -56,8 +57,15 @@ Body bodyOf(const char* buffer)
     return body;
 }
 
+// The text of a field, up to a zero or its end.
+template <std::size_t Size>
+QString textOf(const std::array<char, Size>& field)
+{
+    const auto end = std::find(field.begin(), field.end(), '\0');
+    return QString::fromLatin1(field.data(), static_cast<int>(end - field.begin()));
+}
+
 // The word at the front of most answers.
 int statusWord(const char* buffer);
 // `count` is made to fit the bytes that came.
 SMsgAVIoctrlListWifiApResp decodeWifiList(const char* buffer, int size);
-SMsgAVIoctrlGetWifiResp decodeWifi(const char* buffer);

@@ -247,7 +247,7 @@ struct SMsgAVIoctrlGetMotionDetectResp
 
 struct SWifiAp
 {
-    std::array<char, 32> ssid{}; // zero terminated, by decodeWifiList if not by the device
+    std::array<char, 32> ssid{}; // zero filled; may fill the field: read with textOf()
     std::array<quint8, 4> reserved{}; // not read
 };
 
@@ -259,7 +259,7 @@ struct SMsgAVIoctrlListWifiApResp
 
 struct SMsgAVIoctrlGetWifiResp
 {
-    std::array<char, 32> ssid{}; // zero terminated, by decodeWifi if not by the device
+    std::array<char, 32> ssid{}; // zero filled; may fill the field: read with textOf()
     std::array<char, 32> password{};
 };
 

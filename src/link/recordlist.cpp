@@ -61,8 +61,8 @@ QList<int> blockOf(const QDateTime& start, const RecordListEntry& entry)
 QList<int> blockFromMidnight(const QDateTime& start, const RecordListEntry& entry)
 {
     const QDateTime dayEnd(start.date(), QTime(23, 59, 59));
-    return {0, lengthOf(entry) - static_cast<int>(start.secsTo(dayEnd)), sinceEpoch(dayEnd),
-        entry.eventType};
+    const int before = secondOfDay(dayEnd) - secondOfDay(start);
+    return {0, lengthOf(entry) - before, sinceEpoch(dayEnd), entry.eventType};
 }
 
 } // namespace
@@ -79,7 +79,7 @@ RecordList decodeRecordList(const char* buffer, int size, const QDateTime& now)
     const std::vector<RecordListEntry> entries = entriesOf(buffer, size);
     for (std::size_t i = 0; i < entries.size(); ++i) {
         const QDateTime start = localStart(entries[i]);
-        if (!start.isValid() || now.secsTo(start) > secondsPerDay)
+        if (!start.isValid() || start.toSecsSinceEpoch() > now.toSecsSinceEpoch() + secondsPerDay)
             continue;
         const bool runsOver = i == 0 && entries.size() > 1 && beganTheDayBefore(start, entries[1]);
         list.blocks.append(

@@ -11,6 +11,8 @@ class TestDeviceModel final : public QObject
 private slots:
     void modelTextTellsKindAndChannels_data();
     void modelTextTellsKindAndChannels();
+    void searchTableShowsKindAndChannels_data();
+    void searchTableShowsKindAndChannels();
 };
 
 namespace {
@@ -79,6 +81,71 @@ void addOddPieces()
     addRow("01W-many", "DVR", 1, "many");
 }
 
+void addShown(const char* model, const char* type, const char* channels)
+{
+    QTest::newRow(*model == '\0' ? "(empty)" : model) << model << type << channels;
+}
+
+void addShownKinds()
+{
+    addShown("NVR01W-4", "DVR", "4");
+    addShown("NVRX1W-4", "DVR", "4");
+    addShown("NVR02W-4", "NVR", "4");
+    addShown("NVRX2W-4", "NVR", "4");
+    addShown("NVR03W-8", "NVR", "8");
+    addShown("NVRX3W-8", "NVR", "8");
+    addShown("NVR04W-16", "NVR", "16");
+    addShown("NVRX4W-16", "NVR", "16");
+    addShown("NVR06W-32", "NVR", "32");
+    addShown("NVRX6W-32", "NVR", "32");
+    addShown("NVR05W-9", "WVR", "9");
+    addShown("NVRX5W-9", "WVR", "9");
+    addShown("NVR11W-64", "XVR", "64");
+}
+
+// The number of channels shows all the same.
+void addKindsThatDoNotShow()
+{
+    addShown("NVR99W-8", "", "8");
+    addShown("NVR07W-8", "", "8");
+    addShown("NVRX7W-8", "", "8");
+    addShown("NVRx1W-8", "", "8");
+    addShown("NVR12W-8", "", "8");
+    addShown("abcd-8", "", "8");
+    addShown("NVR0411-8", "", "8");
+}
+
+void addShownIpc()
+{
+    addShown("IPC", "IPC", "C");
+    addShown("IPC2", "IPC", "2");
+    addShown("IPC-4", "IPC", "4");
+    addShown("NVR01W-8-IPC", "IPC", "C");
+    addShown("ipc", "IPC", "c");
+    addShown("ipc2", "IPC", "2");
+    addShown("ipc-16", "IPC", "6");
+    addShown("NVR01Ipc-16", "IPC", "6");
+    addShown("iPC01W-8", "IPC", "8");
+}
+
+void addShownOddPieces()
+{
+    addShown("", "", "");
+    addShown("NVR04W", "", "");
+    addShown("IP", "", "");
+    addShown("-", "", "");
+    addShown("--", "", "");
+    addShown("-8", "", "8");
+    addShown("W-8", "", "8");
+    addShown("1W-8", "", "8");
+    addShown("01-8", "", "8");
+    addShown("01W-8", "DVR", "8");
+    addShown("01W-", "DVR", "");
+    addShown("01W-8-16", "DVR", "8");
+    addShown("01W--16", "DVR", "");
+    addShown("01W-many", "DVR", "many");
+}
+
 } // namespace
 
 void TestDeviceModel::modelTextTellsKindAndChannels_data()
@@ -99,6 +166,24 @@ void TestDeviceModel::modelTextTellsKindAndChannels()
     QTEST(deviceTypeName(model), "name");
     QTEST(deviceTypeCode(model), "code");
     QTEST(deviceChannelText(model), "channels");
+}
+
+void TestDeviceModel::searchTableShowsKindAndChannels_data()
+{
+    QTest::addColumn<QString>("model");
+    QTest::addColumn<QString>("type");
+    QTest::addColumn<QString>("channels");
+    addShownKinds();
+    addKindsThatDoNotShow();
+    addShownIpc();
+    addShownOddPieces();
+}
+
+void TestDeviceModel::searchTableShowsKindAndChannels()
+{
+    QFETCH(QString, model);
+    QTEST(lanTypeText(model), "type");
+    QTEST(lanChannelText(model), "channels");
 }
 
 ORVA_TEST(TestDeviceModel)
