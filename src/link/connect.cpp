@@ -25,6 +25,14 @@ struct ConnectRequest
     std::shared_ptr<ReportAddress> address;
 };
 
+// Of a device that has left the registry, whose session nobody else would end.
+void closeSession(Device* device)
+{
+    if (device->sid >= 0)
+        IOTC_Session_Close(device->sid);
+    device->sid = -1;
+}
+
 // On a thread of the library.
 void reportConnect(int state, int result, void* userData)
 {
@@ -77,6 +85,9 @@ void Connect::deInit()
 
 void Connect::connect(Channel* channel)
 {
+    // A slot may still know a device that has left; nobody would end its session.
+    if (channel->device()->isRetired())
+        return;
     if (channel->mode(true).avIndex >= 0)
         channelConnected(channel, true);
     else if (!channelQueue_.contains(channel))
@@ -177,7 +188,6 @@ void Connect::takeSession(Channel* channel, int result, int sid)
     Device* device = channel->device();
     device->connecting = false;
     timer_.stop();
-    const bool deleted = deletedDevices_.remove(device);
     if (result < 0 || sid < 0) {
         device->sid = -1;
         deviceFailed(channel, result);
@@ -185,11 +195,8 @@ void Connect::takeSession(Channel* channel, int result, int sid)
     }
     device->sid = sid;
     deviceConnected(channel);
-    // Nobody else will ever end the session of a device that has left the registry.
-    if (deleted) {
-        device->sid = -1;
-        IOTC_Session_Close(sid);
-    }
+    if (device->isRetired())
+        closeSession(device);
 }
 
 void Connect::takeAvIndex(Channel* channel, int avIndex, bool isLive)
@@ -254,6 +261,5 @@ void Connect::deleteDev(Device* device)
     deviceQueue_.removeAll(device);
     for (int i = 0; i < device->channelListSize(); ++i)
         channelQueue_.removeAll(device->channel(i));
-    if (device->connecting)
-        deletedDevices_.insert(device);
+    closeSession(device);
 }

@@ -6,7 +6,6 @@
 #include <QList>
 #include <QMutex>
 #include <QObject>
-#include <QSet>
 #include <QTimer>
 
 #include <memory>
@@ -75,6 +74,5 @@ private:
     QList<Device*> deviceQueue_; // wait for a session; the head is tried
     QList<Channel*> channelQueue_; // wait for their AV channel
     int currentSid_ = -1; // of the attempt under way
-    QSet<const Device*> deletedDevices_; // left the registry while their attempt was under way
     const std::shared_ptr<ReportAddress> reportAddress_; // shared with the attempts
 };

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What becomes of the result of each command.
+#include "AVAPIs.h"
 #include "cloud/errormsg.h"
 #include "link/ioconnect.h"
 #include "media/audiosend.h"
@@ -22,18 +23,24 @@ struct IoConnect::Results
 
     // The common row: a failure has its signal and leads to nothing else; of a message that went out
     // `success` makes what is to be made. Without one the device's answer tells the outcome.
-    template <class Event, FailSignal fail, void (*success)(IoConnect*, const Event&) = nullptr>
+    template <class Event, FailSignal fail, void (*success)(IoConnect*, const Event&)>
     static void take(IoConnect* link, QEvent* event)
     {
         const auto& sent = eventCast<Event>(event);
         sent.channel->stopIoTimer();
         if (sent.result < 0)
             emit(link->*fail)(sent.channel, sent.result, ErrorMsg::p2pError(sent.result));
-        else if constexpr (success != nullptr)
+        else
             success(link, sent);
     }
 
-    template <class Event, FailSignal fail, void (*success)(IoConnect*, const Event&) = nullptr>
+    template <class Event>
+    static void nothing(IoConnect*, const Event&)
+    {
+    }
+
+    template <class Event, FailSignal fail,
+        void (*success)(IoConnect*, const Event&) = nothing<Event>>
     static constexpr Row row()
     {
         return {Event::number, take<Event, fail, success>};
@@ -161,6 +168,12 @@ struct IoConnect::Results
             emit link->audioSendControlFailMsg(channel, 0, tr("Not Found Input Device."));
             return;
         }
+        // Ended with its session meanwhile: whoever has the index now must not hear this microphone.
+        if (channel->device()->sid < 0) {
+            emit link->audioSendControlFailMsg(
+                channel, AV_SESSION_CLOSED, ErrorMsg::p2pError(AV_SESSION_CLOSED));
+            return;
+        }
         channel->speaking = true;
         link->audioSend_->start();
         emit link->audioSendControlSuccessMsg(channel);
@@ -187,7 +200,7 @@ const IoConnect::Results::Row IoConnect::Results::rows[] = {
     row<ProgressEvent_StartStream, &IoConnect::videoRequestFailMsg, streamStarted>(),
     row<ProgressEvent_getReplayVideoTime, videoTimeAsked>(),
     row<ProgressEvent_playReplay, &IoConnect::startReplayControlFailMsg>(),
-    row<ProgressEvent_playReplayIo, replayIo>(),
+    row<ProgressEvent_playReplayIo, nothing<ProgressEvent_playReplayIo>>(),
     row<ProgressEvent_stopReplay, &IoConnect::stopReplayFailMsg, replayStopped>(),
     row<ProgressEvent_changeQuality, &IoConnect::setQualityFailMsg, qualityChanged>(),
     row<ProgressEvent_audioControl, &IoConnect::audioControlFailMsg, audioChanged>(),

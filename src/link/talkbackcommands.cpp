@@ -56,6 +56,10 @@ void IoConnect::audioSendControlResult(Channel* channel, int result, bool on)
 
 void IoConnect::audioSendServiceStartResult(Channel* channel, int result)
 {
+    // The server has gone with a session that was ended while this result was on its way, and its
+    // index may be another's by now.
+    if (result >= 0 && channel->device()->sid < 0)
+        result = AV_SESSION_CLOSED;
     if (result < 0) {
         channel->speaking = false;
         emit audioSendControlFailMsg(channel, result, ErrorMsg::p2pError(result));
@@ -74,11 +78,12 @@ void IoConnect::audioSendServiceStartResult(Channel* channel, int result)
 
 void IoConnect::audioSendServiceStop(Channel* channel)
 {
-    run(channel, [this, channel] {
+    run(channel, [channel, microphone = audioSend_] {
         avServStop(channel->talkIndex);
         channel->talkIndex = -1;
         channel->speaking = false;
-        // The microphone belongs to the main thread.
-        QMetaObject::invokeMethod(audioSend_, &AudioSend::stop, Qt::QueuedConnection);
+        // The microphone belongs to the main thread. By name, since the thread sanitizer cannot
+        // look into the hand-over of a function pointer.
+        QMetaObject::invokeMethod(microphone, "stop", Qt::QueuedConnection);
     });
 }

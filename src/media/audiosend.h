@@ -19,6 +19,7 @@ public:
     ~AudioSend() override;
     Q_DISABLE_COPY_MOVE(AudioSend)
 
+public slots:
     // May be called again while it runs, or does not.
     virtual void start();
     virtual void stop();

@@ -66,6 +66,12 @@ Channel* Device::channel(int index) const
         : nullptr;
 }
 
+void Device::retire()
+{
+    retired_ = true;
+    release();
+}
+
 void Device::release()
 {
     int holds = holds_.load(std::memory_order_acquire);

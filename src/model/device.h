@@ -56,7 +56,9 @@ public:
     // task and no event carries one of its channels; so plain pointers stay good to the end of the
     // slot that retires it, unless that runs an event loop of its own. Main thread; only for a
     // device made with `new`.
-    void retire() { release(); }
+    void retire();
+    // It has left the registry: only work that was under way still knows it. Main thread.
+    bool isRetired() const { return retired_; }
 
     // Session of the link layer, shared with worker threads without a lock: `sid` below 0 and
     // not connecting is not connected, 0 or above is connected.
@@ -77,6 +79,7 @@ private:
     int type_ = 0;
     int channelCount_ = 0;
     std::vector<std::unique_ptr<Channel>> channels_;
+    bool retired_ = false;
     std::atomic<int> holds_{1}; // the owner's, and one for each ChannelHold
 };
 

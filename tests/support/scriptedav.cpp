@@ -164,7 +164,9 @@ int avClientStart2(int sessionId, const char* account, const char* password,
     return engine().run(LinkFn::avClientStart2,
         {{"sessionId", sessionId}, {"account", textArgument(account)},
             {"password", textArgument(password)}, {"timeoutSec", static_cast<int>(timeoutSec)},
-            {"channelId", channelId}},
+            {"channelId", channelId},
+            {"serviceType", serviceType ? static_cast<int>(*serviceType) : -1},
+            {"resend", resend ? *resend : -1}},
         {own, opensAt(channel)});
 }
 
@@ -223,7 +225,8 @@ int avServStart3(int sessionId, AV_AuthCallback auth, unsigned int timeoutSec,
     };
     return engine().run(LinkFn::avServStart3,
         {{"sessionId", sessionId}, {"timeoutSec", static_cast<int>(timeoutSec)},
-            {"serviceType", static_cast<int>(serviceType)}, {"channelId", channelId}},
+            {"serviceType", static_cast<int>(serviceType)}, {"channelId", channelId},
+            {"resend", resend ? *resend : -1}},
         {own, opensAt(channel)});
 }
 

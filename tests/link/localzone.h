@@ -4,7 +4,7 @@
 #include <QByteArray>
 #include <QtGlobal>
 
-// Moves this machine to another time zone for as long as it lives; for tests without threads.
+// Moves this machine to another time zone for as long as it lives.
 class LocalZone final
 {
 public:
