@@ -9,7 +9,6 @@
 #include "model/events.h"
 
 #include <QDebug>
-#include <QMutexLocker>
 
 namespace {
 
@@ -125,8 +124,7 @@ void Connect::connectDev(Device* device)
     timer_.start();
     const ChannelHold channel(device->channel(0));
     const QByteArray uid = device->uid().toLatin1();
-    runTask(channel, [this, channel, uid, sid = currentSid_] {
-        const QMutexLocker lock(&deviceMutex_);
+    deviceTasks_.run(channel, [this, channel, uid, sid = currentSid_] {
         auto request = std::make_unique<ConnectRequest>();
         request->channel = channel;
         request->sid = sid;
@@ -146,8 +144,7 @@ void Connect::connectChannel(Channel* channel, unsigned char channelId, bool isL
     const Device* device = channel->device();
     const QByteArray account = device->viewAccount().toLocal8Bit();
     const QByteArray password = device->viewPassword().toLocal8Bit();
-    runTask(channel, [this, channel, account, password, channelId, isLive] {
-        const QMutexLocker lock(&channelMutex_);
+    channelTasks_.run(channel, [this, channel, account, password, channelId, isLive] {
         unsigned serviceType = 0;
         int resend = 0;
         const int avIndex = avClientStart2(channel->device()->sid, account.constData(),

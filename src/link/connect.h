@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "model/channel.h"
+#include "link/taskline.h"
 
 #include <QList>
-#include <QMutex>
 #include <QObject>
 #include <QTimer>
 
@@ -64,11 +63,9 @@ private:
     void channelConnected(Channel* channel, bool isLive);
     void channelFailed(Channel* channel, int result, bool isLive);
 
-    // Held by tasks, across one blocking call each; never together.
-    QMutex channelMutex_;
-    QMutex deviceMutex_;
-
     // Main thread only.
+    TaskLine channelTasks_;
+    TaskLine deviceTasks_;
     QTimer timer_; // of the attempt under way
     bool initialized_ = false; // both libraries are up
     QList<Device*> deviceQueue_; // wait for a session; the head is tried

@@ -11,7 +11,6 @@
 #include "wall/viewcontrol.h"
 
 #include <QDebug>
-#include <QMutexLocker>
 
 namespace {
 
@@ -194,29 +193,6 @@ void IoConnect::armIoTimer(Channel* channel)
 void IoConnect::ioControlTimeout(Channel* channel)
 {
     avSendIOCtrlExit(channel->mode(true).avIndex);
-}
-
-void IoConnect::run(Channel* channel, Work work)
-{
-    {
-        const std::lock_guard lock(commandsMutex_);
-        commands_.push_back({ChannelHold(channel), std::move(work)});
-    }
-    runTask(channel, [this] { runNextCommand(); });
-}
-
-// Whichever task gets the mutex first takes the oldest command: a mutex alone keeps no order, and
-// the stop of a moving camera must not be overtaken.
-void IoConnect::runNextCommand()
-{
-    const QMutexLocker lock(&mutex_);
-    Command command;
-    {
-        const std::lock_guard listLock(commandsMutex_);
-        command = std::move(commands_.front());
-        commands_.pop_front();
-    }
-    command.work();
 }
 
 int IoConnect::sendMessage(Channel* channel, unsigned type, const QByteArray& message)

@@ -3,18 +3,14 @@
 
 #include "link/lansearchresult.h"
 #include "link/messages.h"
+#include "link/taskline.h"
 #include "model/playspeed.h"
-#include "model/task.h"
 
 #include <QDateTime>
-#include <QMutex>
 #include <QObject>
 #include <QTimer>
 
-#include <deque>
-#include <functional>
 #include <memory>
-#include <mutex>
 
 class AudioSend;
 class Connect;
@@ -199,19 +195,9 @@ private slots:
     void getLanSearchResult();
 
 private:
-    using Work = std::function<void()>;
     struct Results; // what becomes of each result event
 
-    struct Command
-    {
-        ChannelHold channel;
-        Work work;
-    };
-
     void armIoTimer(Channel* channel);
-    // Runs `work` on the pool, one command after the other. `channel` may be null.
-    void run(Channel* channel, Work work);
-    void runNextCommand();
     static int sendMessage(Channel* channel, unsigned type, const QByteArray& message);
     // Sends one message and posts Event(channel, result, values...).
     template <class Event, typename... Values>
@@ -226,14 +212,8 @@ private:
     void takeSearchStart(int result);
     void takeSearchResult(int count, const IOTC_SearchRecord* records);
 
-    // Held by a command from its first line to its last, across the library call.
-    QMutex mutex_;
-    // Commands that wait, in their order; any thread, held together by their mutex. Each has a task
-    // on the pool, and the user's patience bounds their number.
-    std::mutex commandsMutex_;
-    std::deque<Command> commands_;
-
     // Main thread only.
+    TaskLine commands_; // one send of the whole program at a time
     AudioSend* audioSend_ = nullptr;
     std::unique_ptr<Connect> connect_; // null in a second object
     QList<LanSearchResult> lanResults_;
@@ -244,7 +224,7 @@ private:
 template <class Event, typename... Values>
 void IoConnect::send(Channel* channel, unsigned type, const QByteArray& message, Values... values)
 {
-    run(channel, [=] {
+    commands_.run(channel, [=] {
         const int result = sendMessage(channel, type, message);
         postResult(this, new Event(channel, result, values...));
     });

@@ -19,7 +19,7 @@ constexpr int maxAvChannels = 4096;
 
 void IoConnect::startLANSearch()
 {
-    run(nullptr, [this] {
+    commands_.run(nullptr, [this] {
         const int result = IOTC_Search_Device_Start(searchMs, askEveryMs);
         postResult(this, new ProgressEvent_LanSearchStart(result));
     });

@@ -12,7 +12,7 @@ void IoConnect::startLive(Channel* channel)
     armIoTimer(channel);
     channel->mode(true).waiting = true;
     emit waitingStreamMsg(channel);
-    run(channel, [this, channel] {
+    commands_.run(channel, [this, channel] {
         // Index 0, whichever channel is started: the frames that wait there are dropped.
         avClientCleanBuf(0);
         int result = sendMessage(channel, IOCTRL_VIDEO_PREPARE, QByteArray(2, '\0'));
@@ -54,7 +54,7 @@ void IoConnect::audioControl(Channel* channel, bool on)
 
 void IoConnect::getPtz(Channel* channel)
 {
-    run(channel, [channel] {
+    commands_.run(channel, [channel] {
         if (channel->mode(true).avIndex >= 0)
             sendMessage(channel, IOCTRL_GET_PTZ, QByteArray(8, '\0'));
     });

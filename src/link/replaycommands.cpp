@@ -70,7 +70,7 @@ void IoConnect::playReplay(
     channel->replayOffset = offset;
     qDebug().noquote().nospace() << "playReplay:" << dateTime.toString(Qt::ISODate);
     const IOCONNECT_REPLAY_DATA data{dateTime, forward, speed};
-    run(channel, [this, channel, data] {
+    commands_.run(channel, [this, channel, data] {
         const QByteArray message = bytesOf(playControlRequest(
             channel->number(), playCommand(*channel, data.forward), data.dateTime, data.speed));
         const int result = sendMessage(channel, IOCTRL_PLAY_CONTROL, message);
@@ -94,7 +94,7 @@ void IoConnect::stopPauseReplay(Channel* channel, bool isModeChange)
     if (!isModeChange)
         channel->replayPaused = false;
     channel->mode(false).waiting = true;
-    run(channel, [this, channel] {
+    commands_.run(channel, [this, channel] {
         const RecordPlayCommand command = firmwareResumesByStart(channel)
             ? AVIOCTRL_RECORD_PLAY_START
             : AVIOCTRL_RECORD_PLAY_PAUSE;

@@ -32,7 +32,7 @@ int startServer(const Channel& channel)
 void IoConnect::audioSendControl(Channel* channel, bool on)
 {
     armIoTimer(channel);
-    run(channel, [this, channel, on] {
+    commands_.run(channel, [this, channel, on] {
         channel->speechChannel = speechChannelId;
         const int result = sendMessage(channel, on ? IOCTRL_SPEAKER_START : IOCTRL_SPEAKER_STOP,
             bytesOf(channelRequest(speechChannelId)));
@@ -47,7 +47,7 @@ void IoConnect::audioSendControlResult(Channel* channel, int result, bool on)
     } else if (!on) {
         audioSendServiceStop(channel);
     } else {
-        run(channel, [this, channel] {
+        commands_.run(channel, [this, channel] {
             postResult(
                 this, new ProgressEvent_audioSendServiceStart(channel, startServer(*channel)));
         });
@@ -66,7 +66,7 @@ void IoConnect::audioSendServiceStartResult(Channel* channel, int result)
         return;
     }
     channel->talkIndex = result;
-    run(channel, [this, channel, talkIndex = result] {
+    commands_.run(channel, [this, channel, talkIndex = result] {
         const int cleaned = avClientCleanAudioBuf(talkIndex);
         qDebug().nospace() << "talk start bRet:" << cleaned << " speech channel:" << talkIndex;
         unsigned size = 0;
@@ -78,7 +78,7 @@ void IoConnect::audioSendServiceStartResult(Channel* channel, int result)
 
 void IoConnect::audioSendServiceStop(Channel* channel)
 {
-    run(channel, [channel, microphone = audioSend_] {
+    commands_.run(channel, [channel, microphone = audioSend_] {
         avServStop(channel->talkIndex);
         channel->talkIndex = -1;
         channel->speaking = false;
