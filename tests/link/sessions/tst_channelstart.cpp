@@ -4,6 +4,7 @@
 
 #include <QTest>
 #include <QTextCodec>
+#include <QThreadPool>
 
 #include <atomic>
 #include <optional>
@@ -22,6 +23,7 @@ private slots:
     void accountAndPasswordGoInTheLocalEncoding_data();
     void accountAndPasswordGoInTheLocalEncoding();
     void everyChannelNumberIsItsChannelId();
+    void channelsStartInTheOrderInWhichTheyWereAskedFor();
     void channelThatIsOpenIsReportedAtOnce();
     void openChannelOfALostSessionIsReportedAndItsDeviceTried();
     void waitingChannelIsNotStartedTwice();
@@ -136,9 +138,23 @@ void TestChannelStart::everyChannelNumberIsItsChannelId()
     for (const int number : {255, 128, 0})
         bench_->link().connect(device->channel(number));
     finishTasks();
-    QList<int> ids = startedChannels();
-    std::sort(ids.begin(), ids.end());
-    QCOMPARE(ids, QList<int>({0, 128, 255}));
+    QCOMPARE(startedChannels(), QList<int>({255, 128, 0}));
+}
+
+// The tiles of a wall come up in their order.
+void TestChannelStart::channelsStartInTheOrderInWhichTheyWereAskedFor()
+{
+    const int threads = QThreadPool::globalInstance()->maxThreadCount();
+    QThreadPool::globalInstance()->setMaxThreadCount(8);
+    QList<int> wanted;
+    Device* device = addConnected('A', 64);
+    for (int i = 0; i < 64; ++i) {
+        wanted.append(i);
+        bench_->link().connect(device->channel(i));
+    }
+    finishTasks();
+    QThreadPool::globalInstance()->setMaxThreadCount(threads);
+    QCOMPARE(startedChannels(), wanted);
 }
 
 void TestChannelStart::channelThatIsOpenIsReportedAtOnce()

@@ -5,7 +5,6 @@
 
 #include <QCoreApplication>
 #include <QTest>
-#include <QThreadPool>
 
 #include <climits>
 #include <optional>
@@ -75,17 +74,6 @@ private:
     const QEvent::Type number_;
 };
 
-class OneThread final
-{
-public:
-    OneThread() { QThreadPool::globalInstance()->setMaxThreadCount(1); }
-    ~OneThread() { QThreadPool::globalInstance()->setMaxThreadCount(before_); }
-    Q_DISABLE_COPY_MOVE(OneThread)
-
-private:
-    const int before_ = QThreadPool::globalInstance()->maxThreadCount();
-};
-
 } // namespace
 
 void TestDeviceSessions::init()
@@ -138,7 +126,6 @@ void TestDeviceSessions::sessionIsReportedForChannelZeroWhicheverChannelWasAsked
 // Each step stands at a gate, so that nothing may come before its turn.
 void TestDeviceSessions::twoChannelsOfAnUnconnectedDeviceStartInOrderOnceItIsConnected()
 {
-    const OneThread pool; // two tasks that wait for one mutex have no order
     bench_->layer.next(connectFn).reports({});
     LinkGate first = bench_->layer.next(startFn).holds();
     LinkGate second = bench_->layer.next(startFn).holds();
