@@ -19,8 +19,12 @@
  * avClientStop, -20026 after IOTC_DeInitialize.
  */
 
-#if defined(_WIN32) && defined(AV_BUILDING)
+#if defined(_WIN32)
+#if defined(AV_BUILDING)
 #define AV_API __declspec(dllexport)
+#else
+#define AV_API
+#endif
 #elif defined(__GNUC__)
 #define AV_API __attribute__((visibility("default")))
 #else

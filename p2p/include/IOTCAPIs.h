@@ -21,8 +21,12 @@
 #include <stdint.h>
 #endif
 
-#if defined(_WIN32) && defined(IOTC_BUILDING)
+#if defined(_WIN32)
+#if defined(IOTC_BUILDING)
 #define IOTC_API __declspec(dllexport)
+#else
+#define IOTC_API
+#endif
 #elif defined(__GNUC__)
 #define IOTC_API __attribute__((visibility("default")))
 #else

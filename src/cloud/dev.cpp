@@ -19,3 +19,9 @@ Dev::Dev()
     if (theDev == nullptr)
         theDev = this;
 }
+
+Dev::~Dev()
+{
+    if (theDev == this)
+        theDev = nullptr;
+}

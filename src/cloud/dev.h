@@ -16,9 +16,11 @@ public:
     static Dev* instance();
 
     Dev();
+    ~Dev() override;
     Q_DISABLE_COPY_MOVE(Dev)
 
 signals:
-    // The device is about to be retired, and its pointer must not be kept.
+    // Emitted for every device that leaves, right before it is retired. Its session ends with this
+    // signal at the latest; its pointer must not be kept.
     void deleteDevMsg(Device* device);
 };

@@ -10,11 +10,12 @@
 
 #include <QDebug>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int connectTimeoutMs = 8000;
 constexpr unsigned channelTimeoutSec = 5;
-constexpr int maxAvChannels = 4096;
 
 // The user data of one attempt: owned by the library until its final report.
 struct ConnectRequest
@@ -24,12 +25,10 @@ struct ConnectRequest
     std::shared_ptr<ReportAddress> address;
 };
 
-// Of a device that has left the registry, whose session nobody else would end.
-void closeSession(Device* device)
+template <typename Predicate>
+void removeIf(QList<ChannelHold>& queue, Predicate predicate)
 {
-    if (device->sid >= 0)
-        IOTC_Session_Close(device->sid);
-    device->sid = -1;
+    queue.erase(std::remove_if(queue.begin(), queue.end(), predicate), queue.end());
 }
 
 // On a thread of the library.
@@ -89,21 +88,23 @@ void Connect::connect(Channel* channel)
         return;
     if (channel->mode(true).avIndex >= 0)
         channelConnected(channel, true);
-    else if (!channelQueue_.contains(channel))
-        channelQueue_.append(channel);
+    else if (!channelQueue_.contains(ChannelHold(channel)))
+        channelQueue_.append(ChannelHold(channel));
 
+    const ChannelHold first(channel->device()->channel(0));
     if (channel->device()->sid >= 0)
         deviceConnected(channel);
-    else if (!deviceQueue_.contains(channel->device()))
-        deviceQueue_.append(channel->device());
+    else if (!deviceQueue_.contains(first))
+        deviceQueue_.append(first);
     if (initialized_)
         connectNext();
 }
 
 void Connect::connectNext()
 {
-    const QList<Channel*> waiting = channelQueue_;
-    for (Channel* channel : waiting) {
+    forgetRetired();
+    const QList<ChannelHold> waiting = channelQueue_;
+    for (const ChannelHold& channel : waiting) {
         if (channel->device()->sid >= 0 && !channel->connectingChannel) {
             channel->connectingChannel = true;
             connectChannel(channel, static_cast<unsigned char>(channel->number()), true);
@@ -112,7 +113,7 @@ void Connect::connectNext()
     // The head stays in the queue until its attempt has ended.
     if (deviceQueue_.isEmpty())
         return;
-    Device* device = deviceQueue_.first();
+    Device* device = deviceQueue_.first()->device();
     if (device->sid < 0 && !device->connecting)
         connectDev(device);
 }
@@ -192,8 +193,11 @@ void Connect::takeSession(Channel* channel, int result, int sid)
     }
     device->sid = sid;
     deviceConnected(channel);
-    if (device->isRetired())
-        closeSession(device);
+    // Nobody else would end the session of a device that has left the registry.
+    if (device->isRetired()) {
+        device->sid = -1;
+        IOTC_Session_Close(sid);
+    }
 }
 
 void Connect::takeAvIndex(Channel* channel, int avIndex, bool isLive)
@@ -240,7 +244,7 @@ void Connect::channelConnected(Channel* channel, bool isLive)
 {
     qDebug().nospace() << "connect channel success:" << channel->number()
                        << ",isLive:" << boolText(isLive);
-    channelQueue_.removeAll(channel);
+    channelQueue_.removeAll(ChannelHold(channel));
     emit connectChannelSuccessMsg(channel, isLive);
 }
 
@@ -249,14 +253,22 @@ void Connect::channelFailed(Channel* channel, int result, bool isLive)
     const QString text = ErrorMsg::p2pError(result);
     qDebug().noquote().nospace() << "connect channel error:" << channel->number()
                                  << ",error:" << result << "(" << text << ")";
-    channelQueue_.removeAll(channel);
+    channelQueue_.removeAll(ChannelHold(channel));
     emit connectChannelFailMsg(channel, isLive, result, text);
 }
 
 void Connect::deleteDev(Device* device)
 {
-    deviceQueue_.removeAll(device);
-    for (int i = 0; i < device->channelListSize(); ++i)
-        channelQueue_.removeAll(device->channel(i));
-    closeSession(device);
+    const auto ofDevice = [device](
+                              const ChannelHold& channel) { return channel->device() == device; };
+    removeIf(deviceQueue_, ofDevice);
+    removeIf(channelQueue_, ofDevice);
+}
+
+// Asked for by a slot that heard of the leaving only later.
+void Connect::forgetRetired()
+{
+    const auto retired = [](const ChannelHold& channel) { return channel->device()->isRetired(); };
+    removeIf(deviceQueue_, retired);
+    removeIf(channelQueue_, retired);
 }

@@ -24,6 +24,8 @@ class Connect final : public QObject
     Q_OBJECT
 
 public:
+    static constexpr int maxAvChannels = 4096; // of all devices
+
     explicit Connect(QObject* parent = nullptr);
     ~Connect() override;
     Q_DISABLE_COPY_MOVE(Connect)
@@ -54,6 +56,7 @@ private:
     void init();
     void deInit();
     void connectNext();
+    void forgetRetired();
     void connectDev(Device* device);
     void takeInit(int result);
     void takeSession(Channel* channel, int result, int sid);
@@ -63,13 +66,15 @@ private:
     void channelConnected(Channel* channel, bool isLive);
     void channelFailed(Channel* channel, int result, bool isLive);
 
-    // Main thread only.
     TaskLine channelTasks_;
     TaskLine deviceTasks_;
+
+    // Main thread only.
     QTimer timer_; // of the attempt under way
     bool initialized_ = false; // both libraries are up
-    QList<Device*> deviceQueue_; // wait for a session; the head is tried
-    QList<Channel*> channelQueue_; // wait for their AV channel
+    QList<ChannelHold>
+        deviceQueue_; // channels 0 of devices that wait for a session, the head first
+    QList<ChannelHold> channelQueue_; // wait for their AV channel
     int currentSid_ = -1; // of the attempt under way
     const std::shared_ptr<ReportAddress> reportAddress_; // shared with the attempts
 };

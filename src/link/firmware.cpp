@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "link/firmware.h"
 
+#include "link/messagecodec.h"
 #include "model/channel.h"
 
 #include <QStringList>
-
-#include <algorithm>
 
 namespace {
 
@@ -34,8 +33,7 @@ QString firmwareVersion(const Channel& channel)
     const std::shared_ptr<const Channel::VersionBlock> block = channel.version();
     if (block == nullptr)
         return {};
-    const auto end = std::find(block->begin(), block->end(), '\0');
-    return QString::fromLatin1(block->data(), static_cast<int>(end - block->begin()));
+    return textOf(*block);
 }
 
 bool firmwareCanSeek(const Channel* channel)

@@ -14,7 +14,8 @@ class QEvent;
 // none, changes the Channel, and tells by signals; IoConnect relays each under the same name.
 //
 // Child of IoConnect; main thread. Ends by itself once the device's session has ended or the device
-// leaves the registry, and is not started again: a channel that connects again gets a new one.
+// leaves the registry, and is not started again: a channel that connects again gets a new one, unless
+// the old one has not noticed the end and goes on.
 // A pointer to a message is good only while the signal is delivered: connect directly.
 class GetMsg final : public QObject
 {
@@ -32,10 +33,6 @@ public:
     void setChannel(Channel* channel);
 
     bool event(QEvent* event) override;
-
-public slots:
-    void getMsg();
-    void deleteDev(Device* device);
 
 signals:
     void receiveVideoTimeMsg(Channel* channel, const QList<int>& block);
@@ -64,6 +61,10 @@ signals:
     void setSmartModeFailMsg(Channel* channel, int result, const QString& text);
     void setRecordModeSuccessMsg(Channel* channel);
     void getPtzMsg(Channel* channel);
+
+private slots:
+    void getMsg();
+    void deleteDev(Device* device);
 
 private:
     Channel* channel_ = nullptr;

@@ -34,6 +34,9 @@ IoConnect::IoConnect()
     lanTimer_.setSingleShot(true);
     QObject::connect(&lanTimer_, &QTimer::timeout, this, &IoConnect::getLanSearchResult);
 
+    // Before Connect and every receiver: when those forget the device, it must have ended.
+    QObject::connect(Dev::instance(), &Dev::deleteDevMsg, this,
+        [this](Device* device) { disConnectDevice(device); });
     connect_ = std::make_unique<Connect>();
     const Connect* sessions = connect_.get();
     QObject::connect(sessions, &Connect::tutkInitSuccessMsg, this, &IoConnect::tutkInitSuccessMsg);
@@ -90,13 +93,19 @@ void IoConnect::disConnectDevice(Device* device)
 {
     if (device->sid < 0)
         return;
-    for (int i = 0; i < device->channelCount(); ++i) {
+    // All there are, not only those that count by now: an index that stays behind would soon be
+    // another channel's.
+    for (int i = 0; i < device->channelListSize(); ++i) {
         const int avIndex = device->channel(i)->mode(true).avIndex;
         if (avIndex >= 0)
             avSendIOCtrlExit(avIndex);
     }
     IOTC_Session_Close(device->sid); // and with it its AV channels
     device->sid = -1;
+    for (int i = 0; i < device->channelListSize(); ++i) {
+        device->channel(i)->mode(true).avIndex = -1;
+        device->channel(i)->mode(false).avIndex = -1;
+    }
     for (int i = 0; i < device->channelCount(); ++i) {
         Channel* channel = device->channel(i);
         endTalkBack(channel);
@@ -120,7 +129,6 @@ void IoConnect::endStream(Channel* channel, bool isLive)
     mode.playing = false;
     ViewControl::instance()->setRecord(channel, false);
     Decode::instance()->removeStream(channel, isLive);
-    mode.avIndex = -1;
 }
 
 // The speech server has ended with the session, and its index may soon be another channel's, which

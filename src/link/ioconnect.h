@@ -39,13 +39,16 @@ struct IOCONNECT_PTZ_DATA
 //
 // An operation starts a task that sends one message; its result comes back as an event. A message
 // that could not be sent leads to the operation's fail signal with the library's result and its
-// text, and to nothing else. For most a sent message says nothing yet: the device's answer comes by
-// itself, through a GetMsg for each connected channel, and is matched by its type alone; a refusal
-// carries 0 and a fixed text. No answer, no signal.
+// text, and, where nothing else is said below, to nothing else. For most a sent message says nothing
+// yet: the device's answer comes by itself, through a GetMsg for each connected channel, and is
+// matched by its type alone; a refusal carries 0 and a fixed text. No answer, no signal.
 //
 // At any moment one command of the whole program is in flight, in the order in which they were
-// asked for; the others wait on pool threads. Commands that must not hang arm the channel's IO
-// timer, which ends them after 20 s.
+// asked for; the others wait on pool threads. Some commands arm the channel's IO timer: 20 s later it
+// ends the message of the channel that hangs then, whichever that is. Any result of the channel stops
+// the timer. A message without it may hang as long as the library lets it.
+//
+// Channels are those of devices in the registry. A device that leaves it is disconnected.
 //
 // Singleton, lives to the end of the process; main thread. A pointer to a message is good only
 // while its signal is delivered: connect directly.
@@ -61,54 +64,70 @@ public:
     ~IoConnect() override;
     Q_DISABLE_COPY_MOVE(IoConnect)
 
-    // Sessions. `connect` ends in connectChannelSuccessMsg, connectDevFailMsg or
-    // connectChannelFailMsg. Disconnecting ends the session with all that runs on it, at once.
+    // Sessions. `connect` leads to connectDevSuccessMsg, if need be, then to
+    // connectChannelSuccessMsg or connectChannelFailMsg; or to connectDevFailMsg, once for a device,
+    // with its channel 0, while its other channels wait for the next `connect`. Success of a
+    // channel that is connected is told inside the call. Devices wait for each other, and while the
+    // libraries do not come up all wait.
     void connect(Channel* channel);
+    // For GetMsg: opens the AV channel that the device has named for a replay.
     void connectChannel(Channel* channel, unsigned char channelId, bool isLive);
+    // Ends the session with all that runs on it, at once; does nothing where there is none.
     void disConnectDevice(Device* device);
     void disConnectDevice(Channel* channel);
 
     // Live view.
-    void startLive(Channel* channel);
-    void stopLife(Channel* channel, bool restart);
+    void startLive(Channel* channel); // arms
+    void stopLife(Channel* channel, bool restart); // arms; ends talk-back of a closed channel
     void getQuality(Channel* channel);
-    void setQuality(Channel* channel, bool quality); // true: high; restarts the stream
+    void setQuality(Channel* channel, bool quality); // arms; true: high; restarts the stream
     void audioControl(Channel* channel, bool on);
-    void getPtz(Channel* channel); // asks nothing of a channel that is not connected
+    void getPtz(Channel* channel); // no signal on failure; asks nothing where not connected
     void ptzIPC(const IOCONNECT_PTZ_DATA& data, const SMsgAVIoctrlIPCPtzCmd& message);
     void ptzDVR(const IOCONNECT_PTZ_DATA& data, const SMsgAVIoctrlPtzCmd& message);
 
     // Settings of a device, through one of its channels. Texts are sent as Latin-1.
-    void getChannelVersion(Channel* channel);
+    void getChannelVersion(Channel* channel); // arms; connectChannelSuccessMsg, sent or not
     void getWifiList(Channel* channel);
     void getWifiConfig(Channel* channel);
     void setWifi(Channel* channel, const QString& ssid, const QString& password);
+    // Accepted: the device is disconnected before its signal.
     void setPassword(Channel* channel, const QString& oldPassword, const QString& newPassword);
-    void setTime(Channel* channel, const QDateTime& time); // as it stands, whatever its zone
-    void setTimeZone(Channel* channel, const QString& zone);
+    // As it stands, whatever its zone. Success is told once sent.
+    void setTime(Channel* channel, const QDateTime& time);
+    void setTimeZone(Channel* channel, const QString& zone); // arms
     void getSmartSensitivity(Channel* channel);
     void sendSmartSensitivity(Channel* channel, int value); // 25, 50, 75 or 100
     void getSmartMode(Channel* channel);
     void sendSmartMode(Channel* channel, int mode); // one digit
     void getRotateMode(Channel* channel);
-    void sendRotateMode(Channel* channel, int mode); // 0 to 3
+    void sendRotateMode(Channel* channel, int mode); // 0 to 3; answered by getRotateModeSuccessMsg
     void getRecordMode(Channel* channel);
-    void sendRecordMode(Channel* channel, int type); // 0 to 2
+    void sendRecordMode(Channel* channel, int type); // 0 to 2; no signal of a refusal
 
-    // Replay. The channel must be connected; its pictures come on a second AV channel.
+    // Replay. The channel must be connected; its pictures come on a second AV channel. All arm.
+    // `isModeChange`: the wall leaves the mode or comes back, and what the user paused stays so.
+    //
+    // The blocks of a day, then finishVideoTimeMsg, or receiveVideoTimeEmptyMsg; inside the call for
+    // the day that was asked for last, once any list has come. Otherwise
+    // requestReplayVideoTimeSuccessMsg follows, after the fail signal too.
     void getReplayVideoTime(Channel* channel, const QDate& date);
-    void playReplay(Channel* channel, const QDateTime& dateTime, int offset, bool forward,
-        PLAY_SPEED speed); // offset: seconds to seek once it runs
+    // Seeks by `offset` seconds once it runs. Not sent: startReplayControlFailMsg.
+    void playReplay(
+        Channel* channel, const QDateTime& dateTime, int offset, bool forward, PLAY_SPEED speed);
     void pauseReplay(Channel* channel, bool isModeChange);
-    void stopPauseReplay(Channel* channel, bool isModeChange);
+    void stopPauseReplay(Channel* channel, bool isModeChange); // not sent: startReplayFailMsg
+    // Restart: plays from `dateTime` on, forward at x1.
     void stopReplay(Channel* channel, bool restart, const QDateTime& dateTime);
-    void changeReplayTime(Channel* channel, int seconds); // from Channel::replayTime on
+    // To Channel::replayTime and so many seconds. Does nothing for 0, nor where the firmware cannot.
+    void changeReplayTime(Channel* channel, int seconds);
     // Closes the AV channel of the replay. May be called again.
     void closeReplayStream(Channel* channel);
 
-    // Talk-back. On: audioSendControlSuccessMsg once the device listens; off: no signal. The other
-    // three are its further steps, with the result of the step before.
-    void audioSendControl(Channel* channel, bool on);
+    // Talk-back. On: audioSendControlSuccessMsg once the device has joined and the microphone runs.
+    // Off: no signal, but for an off that is not sent. The other three are its further steps, with
+    // the result of the step before.
+    void audioSendControl(Channel* channel, bool on); // arms
     void audioSendControlResult(Channel* channel, int result, bool on);
     void audioSendServiceStartResult(Channel* channel, int result);
     void audioSendServiceStop(Channel* channel);
@@ -212,8 +231,9 @@ private:
     void takeSearchStart(int result);
     void takeSearchResult(int count, const IOTC_SearchRecord* records);
 
-    // Main thread only.
     TaskLine commands_; // one send of the whole program at a time
+
+    // Main thread only.
     AudioSend* audioSend_ = nullptr;
     std::unique_ptr<Connect> connect_; // null in a second object
     QList<LanSearchResult> lanResults_;

@@ -57,6 +57,16 @@ struct IoConnect::Results
                 }};
     }
 
+    // What was started may have ended with its session while the result was on its way, and its AV
+    // index may be another channel's by now. The failure is told as if the send had met it.
+    static bool endedMeanwhile(IoConnect* link, FailSignal fail, Channel* channel)
+    {
+        const bool ended = channel->device()->sid < 0;
+        if (ended)
+            emit(link->*fail)(channel, AV_SESSION_CLOSED, ErrorMsg::p2pError(AV_SESSION_CLOSED));
+        return ended;
+    }
+
     // Live view.
 
     static void streamStopped(IoConnect* link, const ProgressEvent_StopStream& sent)
@@ -73,6 +83,8 @@ struct IoConnect::Results
     static void streamStarted(IoConnect* link, const ProgressEvent_StartStream& sent)
     {
         Channel* channel = sent.channel;
+        if (endedMeanwhile(link, &IoConnect::videoRequestFailMsg, channel))
+            return;
         channel->mode(true).playing = true;
         emit link->videoRequestSuccessMsg(channel);
         if (channel->mode(true).audioOn)
@@ -123,8 +135,6 @@ struct IoConnect::Results
         emit link->requestReplayVideoTimeSuccessMsg(sent.channel);
     }
 
-    static void replayIo(IoConnect*, const ProgressEvent_playReplayIo&) { }
-
     static void replayStopped(IoConnect* link, const ProgressEvent_stopReplay& sent)
     {
         link->closeReplayStream(sent.channel);
@@ -143,6 +153,8 @@ struct IoConnect::Results
 
     static void replayResumed(IoConnect* link, const ProgressEvent_stopPauseReplay& sent)
     {
+        if (endedMeanwhile(link, &IoConnect::startReplayFailMsg, sent.channel))
+            return;
         sent.channel->mode(false).playing = true;
         emit link->startReplaySuccessMsg(sent.channel);
     }
@@ -168,12 +180,11 @@ struct IoConnect::Results
             emit link->audioSendControlFailMsg(channel, 0, tr("Not Found Input Device."));
             return;
         }
-        // Ended with its session meanwhile: whoever has the index now must not hear this microphone.
-        if (channel->device()->sid < 0) {
-            emit link->audioSendControlFailMsg(
-                channel, AV_SESSION_CLOSED, ErrorMsg::p2pError(AV_SESSION_CLOSED));
+        if (endedMeanwhile(link, &IoConnect::audioSendControlFailMsg, channel))
             return;
-        }
+        // Switched off again before it was on.
+        if (channel->talkIndex < 0)
+            return;
         channel->speaking = true;
         link->audioSend_->start();
         emit link->audioSendControlSuccessMsg(channel);

@@ -3,6 +3,7 @@
 #include "AVAPIs.h"
 #include "IOTCAPIs.h"
 #include "cloud/errormsg.h"
+#include "link/connect.h"
 #include "link/ioconnect.h"
 #include "model/progressevents.h"
 
@@ -13,7 +14,6 @@ namespace {
 constexpr int searchMs = 5000;
 constexpr int askEveryMs = 1000;
 constexpr int maxRecords = 256;
-constexpr int maxAvChannels = 4096;
 
 } // namespace
 
@@ -32,7 +32,7 @@ void IoConnect::takeSearchStart(int result)
         searchInitialized_ = true;
         result = IOTC_Initialize2(0);
         if (result >= 0) {
-            avInitialize(maxAvChannels);
+            avInitialize(Connect::maxAvChannels);
             startLANSearch();
             return;
         }

@@ -4,7 +4,6 @@
 #include "link/messagecodec.h"
 
 #include <algorithm>
-#include <optional>
 #include <vector>
 
 namespace {

@@ -10,7 +10,8 @@ struct RecordList
     bool none = false; // the day has no records; nothing else is set
     bool last = false; // the list ends with this message
     // Time blocks: seconds since local midnight, length in seconds, start in seconds since 1970,
-    // event type.
+    // event type. A length can be negative, where a first record that began the day before ended
+    // before midnight.
     QList<QList<int>> blocks;
 };
 

@@ -75,7 +75,7 @@ void IoConnect::sendRotateMode(Channel* channel, int mode)
     send<ProgressEvent_sendRotateMode>(channel, IOCTRL_ROTATE, bytesOf(rotateRequest(mode)));
 }
 
-// The one request that could name its channel and does not.
+// All zeros: unlike the request to set it, this one does not name its channel.
 void IoConnect::getRecordMode(Channel* channel)
 {
     send<ProgressEvent_getRecordMode>(channel, IOCTRL_GET_RECORD_MODE, QByteArray(12, '\0'));

@@ -31,7 +31,7 @@ public:
             const std::lock_guard lock(waitingMutex_);
             waiting_.push_back({ChannelHold(channel), std::move(work)});
         }
-        runTask(channel, [this] { runFirst(); });
+        runTask(nullptr, [this] { runFirst(); }); // the task in the line holds the channel
     }
 
 private:

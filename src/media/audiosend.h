@@ -20,7 +20,7 @@ public:
     Q_DISABLE_COPY_MOVE(AudioSend)
 
 public slots:
-    // May be called again while it runs, or does not.
+    // May be called again while it runs, or does not. A stop for one channel ends it for all.
     virtual void start();
     virtual void stop();
 };

@@ -106,7 +106,7 @@ public:
     GlWidgetViewWindow* tile = nullptr; // the tile that shows the channel; ViewControl writes it
     QDateTime replayTime; // base of all replay offsets
     QDate videoTimeDate;
-    bool videoTimeLoaded = false; // the list for `videoTimeDate` is complete
+    bool videoTimeLoaded = false; // a list has come at some time; never cleared
     int ptzState = 0; // first word of the PTZ state message
     bool connectingChannel = false; // a connect of the live AV channel is under way
     Relaxed<int> replayOffset{0}; // seconds to seek after the start

@@ -7,8 +7,8 @@
 
 // A borrowed Channel* on its way through a task or an event: while it exists, the channel's device
 // is not destroyed, even if the registry has retired it. Behaves as the pointer; may be null.
-// First made from a plain pointer on the main thread, while the device is in the registry;
-// copied, moved and destroyed on any thread.
+// Made from a plain pointer on the main thread, while the device is in the registry, or anywhere
+// while another hold exists; copied, moved and destroyed on any thread.
 class ChannelHold
 {
 public:

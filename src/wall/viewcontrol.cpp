@@ -5,6 +5,9 @@
 #include "model/channel.h"
 #include "store/location.h"
 
+#include <algorithm>
+#include <limits>
+
 namespace {
 
 ViewControl* theViewControl = nullptr;
@@ -33,9 +36,11 @@ ViewControl::~ViewControl()
 void ViewControl::setRecord(Channel* channel, bool isRecord)
 {
     constexpr int msPerMinute = 60000;
+    constexpr int mostMinutes = std::numeric_limits<int>::max() / msPerMinute;
     channel->setRecord(isRecord, isLive_);
     if (isRecord) {
-        channel->setRecordTimer(Location::instance()->getTimeLength() * msPerMinute, isLive_);
+        const int minutes = std::clamp(Location::instance()->getTimeLength(), 0, mostMinutes);
+        channel->setRecordTimer(minutes * msPerMinute, isLive_);
         connect(channel->mode(isLive_).recordTimer.get(), &ChannelSaveTimeout::timeout, this,
             &ViewControl::stopSaveRecord);
     } else {

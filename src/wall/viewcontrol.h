@@ -38,8 +38,9 @@ public:
 signals:
     void recordMsg(Channel* channel, bool isRecord);
 
-private:
+private slots:
     void stopSaveRecord(Channel* channel);
 
+private:
     bool isLive_ = true;
 };

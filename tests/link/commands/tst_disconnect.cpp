@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "cloud/dev.h"
 #include "iotest.h"
 #include "testmain.h"
 
@@ -20,6 +21,8 @@ private slots:
     void endsASendThatHangs();
     void commandsThatWaitedFailTheUsualWay();
     void endsTalkBack();
+    void channelsBeyondTheCountKeepNoIndex();
+    void happensToADeviceThatLeaves();
     void laterConnectOpensANewSession();
 };
 
@@ -68,6 +71,30 @@ void TestDisconnect::forgetsEverythingThatRan()
             QCOMPARE(int(mode.avIndex), -1);
         }
     }
+}
+
+// Another channel may get the number next.
+void TestDisconnect::channelsBeyondTheCountKeepNoIndex()
+{
+    IoTest t(2);
+    t.device->setChannelCount(1);
+    t.io->disConnectDevice(t.device.get());
+    QCOMPARE(int(t.channel(1)->mode(true).avIndex), -1);
+    QVERIFY(!t.record.lines().contains(QStringLiteral("videoRequestStopSuccessMsg 1")));
+}
+
+void TestDisconnect::happensToADeviceThatLeaves()
+{
+    IoTest t;
+    t.channel()->speaking = true;
+    t.channel()->talkIndex = 9;
+    t.channel()->mode(true).playing = true;
+    emit Dev::instance()->deleteDevMsg(t.device.get());
+    QCOMPARE(int(t.device->sid), -1);
+    QCOMPARE(int(t.channel()->mode(true).avIndex), -1);
+    QCOMPARE(int(t.channel()->talkIndex), -1);
+    QVERIFY(!t.channel()->mode(true).playing);
+    QVERIFY(t.record.lines().contains(QStringLiteral("AudioSend::stop")));
 }
 
 void TestDisconnect::endsSendsOnlyOfConnectedChannels()

@@ -56,6 +56,8 @@ private slots:
     void serverThatStartedIsPrepared();
     void missingMicrophoneTellsTheDeviceToStop();
     void talkBackStartsTheMicrophone();
+    void talkBackThatWasSwitchedOffMeanwhileStaysOff();
+    void startsOfAnEndedSessionFail();
 
     // The search on the local network.
     void failedSearchIsReported();
@@ -542,9 +544,37 @@ void TestIoConnect::missingMicrophoneTellsTheDeviceToStop()
 void TestIoConnect::talkBackStartsTheMicrophone()
 {
     IoTest t;
+    t.channel()->talkIndex = 9;
     QVERIFY(deliver(t, new ProgressEvent_audioSendSpeechStart(t.channel(), 0)));
     QCOMPARE(t.record.lines(), QStringList({"AudioSend::start", "audioSendControlSuccessMsg 0"}));
     QVERIFY(t.channel()->speaking);
+}
+
+void TestIoConnect::talkBackThatWasSwitchedOffMeanwhileStaysOff()
+{
+    IoTest t;
+    QVERIFY(deliver(t, new ProgressEvent_audioSendSpeechStart(t.channel(), 0)));
+    QCOMPARE(t.record.lines(), QStringList());
+    QVERIFY(!t.channel()->speaking);
+}
+
+// The result was on its way while the session ended: a channel that plays on would never start again.
+void TestIoConnect::startsOfAnEndedSessionFail()
+{
+    IoTest t;
+    t.io->disConnectDevice(t.device.get());
+    t.record.clear();
+    t.channel()->talkIndex = 9;
+    QVERIFY(deliver(t, new ProgressEvent_StartStream(t.channel(), 0)));
+    QVERIFY(deliver(t, new ProgressEvent_stopPauseReplay(t.channel(), 0)));
+    QVERIFY(deliver(t, new ProgressEvent_audioSendSpeechStart(t.channel(), 0)));
+    QCOMPARE(t.record.lines(),
+        QStringList({"videoRequestFailMsg 0 -20015 The remote session already closes",
+            "startReplayFailMsg 0 -20015 The remote session already closes",
+            "audioSendControlFailMsg 0 -20015 The remote session already closes"}));
+    QVERIFY(!t.channel()->mode(true).playing);
+    QVERIFY(!t.channel()->mode(false).playing);
+    QVERIFY(!t.channel()->speaking);
 }
 
 void TestIoConnect::failedSearchIsReported()

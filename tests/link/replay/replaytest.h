@@ -2,8 +2,8 @@
 #pragma once
 
 #include "link/messages.h"
-#include "model/channel.h"
 #include "localzone.h"
+#include "model/channel.h"
 
 #include <QByteArray>
 #include <QDateTime>

@@ -27,6 +27,7 @@ private slots:
     void deviceDeletedByItsOwnSuccessLeavesNothing();
     void deviceDeletedWithItsSessionOpenLeavesNothing_data();
     void deviceDeletedWithItsSessionOpenLeavesNothing();
+    void deviceAskedForWhileItIsDeletedIsNotTried();
     void twoHundredDevicesDeletedAtAnyPointLeaveNothing();
 
 private:
@@ -234,6 +235,26 @@ void TestDeletedDevices::deviceDeletedWithItsSessionOpenLeavesNothing()
     QCOMPARE(bench_->layer.openSessions(), std::vector<int>());
     for (const GetMsg* receiver : bench_->link().findChildren<GetMsg*>())
         QCOMPARE(receiver->channel(), nullptr);
+    verifyNothingIsLeft();
+}
+
+// By a view that hears of the leaving after the link has.
+void TestDeletedDevices::deviceAskedForWhileItIsDeletedIsNotTried()
+{
+    const DeviceOwner first = makeDevice('F');
+    bench_->layer.next(connectFn).reports({}); // the head of the queue, to stay there
+    bench_->link().connect(first->channel(0));
+    finishTasks();
+    device_ = makeDevice('A', 2);
+    const auto asks = connect(Dev::instance(), &Dev::deleteDevMsg, this, [this](Device* device) {
+        bench_->link().connect(device->channel(0));
+        bench_->link().connect(device->channel(1));
+    });
+    retireDevice();
+    disconnect(asks);
+    QCOMPARE(attemptsFor('A'), 0);
+    emit Dev::instance()->deleteDevMsg(first.get());
+    bench_->layer.report(0, ConnectStep::failed(-90));
     verifyNothingIsLeft();
 }
 
