@@ -193,8 +193,9 @@ void Connect::takeSession(Channel* channel, int result, int sid)
     }
     device->sid = sid;
     deviceConnected(channel);
-    // Nobody else would end the session of a device that has left the registry.
-    if (device->isRetired()) {
+    // Nobody else would end the session of a device that has left the registry. A slot may have, and
+    // the next device has the id by now.
+    if (device->isRetired() && device->sid == sid) {
         device->sid = -1;
         IOTC_Session_Close(sid);
     }
