@@ -2,6 +2,7 @@
 #include "testmain.h"
 
 #include <QImage>
+#include <QImageReader>
 #include <QMovie>
 #include <QTest>
 
@@ -346,10 +347,13 @@ void PicturesTest::waitingAnimationRunsEndlessly()
     QVERIFY(movie.isValid());
     QCOMPARE(movie.frameCount(), 24);
     QCOMPARE(movie.loopCount(), -1);
+    // Of the file: the movie takes what the decoding took off its delay.
+    QImageReader reader(movie.fileName());
     QImage previous;
     for (int i = 0; i < 24; ++i) {
         QVERIFY(movie.jumpToFrame(i));
-        QCOMPARE(movie.nextFrameDelay(), 40);
+        QVERIFY(!reader.read().isNull());
+        QCOMPARE(reader.nextImageDelay(), 40);
         QCOMPARE(movie.currentImage().size(), QSize(64, 64));
         QVERIFY(movie.currentImage() != previous);
         previous = movie.currentImage();
