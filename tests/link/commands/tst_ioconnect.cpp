@@ -3,9 +3,9 @@
 #include "cloud/errormsg.h"
 #include "iotest.h"
 #include "model/events.h"
+#include "results.h"
 #include "testmain.h"
 
-#include <QRegularExpression>
 #include <QTest>
 
 #include <functional>
@@ -47,17 +47,6 @@ private slots:
     void pausedReplayNoLongerPlays();
     void replayPausedByAModeChangeCountsAsStopped();
     void resumedReplayPlays();
-
-    // Talk-back.
-    void refusedSpeakerIsReported();
-    void speakerThatListensGetsAServer();
-    void speakerThatStopsLosesItsServer();
-    void serverThatDoesNotStartEndsTalkBack();
-    void serverThatStartedIsPrepared();
-    void missingMicrophoneTellsTheDeviceToStop();
-    void talkBackStartsTheMicrophone();
-    void talkBackThatWasSwitchedOffMeanwhileStaysOff();
-    void startsOfAnEndedSessionFail();
 
     // The search on the local network.
     void failedSearchIsReported();
@@ -148,34 +137,6 @@ void columns()
     QTest::addColumn<MakeEvent>("make");
 }
 
-constexpr int failed = -20009;
-
-QString failureLine(const QByteArray& failSignal)
-{
-    return QStringLiteral("%1 0 %2 %3")
-        .arg(QString::fromLatin1(failSignal))
-        .arg(failed)
-        .arg(ErrorMsg::p2pError(failed));
-}
-
-// A channel in the middle of everything.
-void occupy(const IoTest& t)
-{
-    Channel* channel = t.channel();
-    for (const bool isLive : {true, false}) {
-        ChannelMode& mode = channel->mode(isLive);
-        mode.open = true;
-        mode.waiting = true;
-        mode.playing = true;
-        mode.audioOn = true;
-    }
-    channel->mode(false).avIndex = t.link.openChannel(channel->device()->sid, 20);
-    channel->replayPending = true;
-    channel->replayPaused = true;
-    channel->speaking = true;
-    channel->talkIndex = 4000; // no index of the layer
-}
-
 QList<int> stateOf(const Channel& channel)
 {
     QList<int> state{channel.device()->sid, channel.replayPending, channel.replayPaused,
@@ -186,19 +147,6 @@ QList<int> stateOf(const Channel& channel)
               << mode.highQuality << mode.record;
     }
     return state;
-}
-
-// The result arrives, and all that follows from it runs.
-bool deliver(IoTest& t, QEvent* event)
-{
-    postResult(t.io.get(), event);
-    return t.settle();
-}
-
-// The lines without those of the messages, which leave on another thread.
-QStringList withoutSends(const HappeningRecord& record)
-{
-    return record.lines().filter(QRegularExpression(QStringLiteral("^(?!send )")));
 }
 
 std::shared_ptr<const IOTC_SearchRecord> oneRecord()
@@ -476,105 +424,6 @@ void TestIoConnect::resumedReplayPlays()
     QVERIFY(deliver(t, new ProgressEvent_stopPauseReplay(t.channel(), 0)));
     QCOMPARE(t.record.lines(), QStringList({"startReplaySuccessMsg 0"}));
     QVERIFY(t.channel()->mode(false).playing);
-}
-
-void TestIoConnect::refusedSpeakerIsReported()
-{
-    IoTest t;
-    QVERIFY(deliver(t, new ProgressEvent_audioSendControl(t.channel(), failed, false)));
-    QCOMPARE(t.record.lines(), QStringList({failureLine("audioSendControlFailMsg")}));
-}
-
-void TestIoConnect::speakerThatListensGetsAServer()
-{
-    IoTest t;
-    t.link.next(LinkFn::avServStart3).answers(failed);
-    QVERIFY(deliver(t, new ProgressEvent_audioSendControl(t.channel(), 0, true)));
-    QCOMPARE(t.record.lines(),
-        QStringList({QStringLiteral("avServStart3 %1").arg(t.device->sid),
-            failureLine("audioSendControlFailMsg")}));
-}
-
-void TestIoConnect::speakerThatStopsLosesItsServer()
-{
-    IoTest t;
-    occupy(t);
-    QVERIFY(deliver(t, new ProgressEvent_audioSendControl(t.channel(), 0, false)));
-    QCOMPARE(t.record.lines(), QStringList({"avServStop 4000", "AudioSend::stop"}));
-    QCOMPARE(int(t.channel()->talkIndex), -1);
-    QVERIFY(!t.channel()->speaking);
-}
-
-void TestIoConnect::serverThatDoesNotStartEndsTalkBack()
-{
-    IoTest t;
-    t.channel()->speaking = true;
-    QVERIFY(deliver(t, new ProgressEvent_audioSendServiceStart(t.channel(), failed)));
-    QCOMPARE(t.record.lines(), QStringList({failureLine("audioSendControlFailMsg")}));
-    QVERIFY(!t.channel()->speaking);
-    QCOMPARE(int(t.channel()->talkIndex), -1);
-}
-
-void TestIoConnect::serverThatStartedIsPrepared()
-{
-    IoTest t;
-    t.link.next(LinkFn::avClientCleanAudioBuf).answers(0);
-    QVERIFY(deliver(t, new ProgressEvent_audioSendServiceStart(t.channel(), 9)));
-    QCOMPARE(t.record.lines(),
-        QStringList({"avClientCleanAudioBuf 9", "avServGetResendSize 9", "AudioSend::start",
-            "audioSendControlSuccessMsg 0"}));
-    QCOMPARE(int(t.channel()->talkIndex), 9);
-}
-
-void TestIoConnect::missingMicrophoneTellsTheDeviceToStop()
-{
-    IoTest t;
-    t.channel()->talkIndex = 9;
-    QVERIFY(deliver(t, new ProgressEvent_audioSendSpeechStart(t.channel(), failed)));
-    QCOMPARE(t.record.sentTypes(), QList<int>({849}));
-    // Once by itself, and once more when the device has been told.
-    QCOMPARE(withoutSends(t.record).filter(QStringLiteral("avServStop")),
-        QStringList({"avServStop 9", "avServStop -1"}));
-    QCOMPARE(withoutSends(t.record).filter(QStringLiteral("Msg")),
-        QStringList({"audioSendControlFailMsg 0 0 Not Found Input Device."}));
-    QCOMPARE(int(t.channel()->talkIndex), -1);
-    QVERIFY(!t.channel()->speaking);
-}
-
-void TestIoConnect::talkBackStartsTheMicrophone()
-{
-    IoTest t;
-    t.channel()->talkIndex = 9;
-    QVERIFY(deliver(t, new ProgressEvent_audioSendSpeechStart(t.channel(), 0)));
-    QCOMPARE(t.record.lines(), QStringList({"AudioSend::start", "audioSendControlSuccessMsg 0"}));
-    QVERIFY(t.channel()->speaking);
-}
-
-void TestIoConnect::talkBackThatWasSwitchedOffMeanwhileStaysOff()
-{
-    IoTest t;
-    QVERIFY(deliver(t, new ProgressEvent_audioSendSpeechStart(t.channel(), 0)));
-    QCOMPARE(t.record.lines(), QStringList());
-    QVERIFY(!t.channel()->speaking);
-}
-
-// The result was on its way while the session ended: a channel that plays on would never start again.
-void TestIoConnect::startsOfAnEndedSessionFail()
-{
-    IoTest t;
-    t.io->disConnectDevice(t.device.get());
-    t.record.clear();
-    t.channel()->talkIndex = 9;
-    QVERIFY(deliver(t, new ProgressEvent_StartStream(t.channel(), 0)));
-    QVERIFY(deliver(t, new ProgressEvent_stopPauseReplay(t.channel(), 0)));
-    QVERIFY(deliver(t, new ProgressEvent_audioSendSpeechStart(t.channel(), 0)));
-    QCOMPARE(t.record.lines(),
-        QStringList({"videoRequestFailMsg 0 -20015 The remote session already closes",
-            "startReplayFailMsg 0 -20015 The remote session already closes",
-            "audioSendControlFailMsg 0 -20015 The remote session already closes"}));
-    QVERIFY(!t.channel()->mode(true).playing);
-    QVERIFY(!t.channel()->mode(false).playing);
-    QVERIFY(!t.channel()->speaking);
 }
 
 void TestIoConnect::failedSearchIsReported()
