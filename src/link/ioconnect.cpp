@@ -93,8 +93,6 @@ void IoConnect::disConnectDevice(Device* device)
 {
     if (device->sid < 0)
         return;
-    // All there are, not only those that count by now: an index that stays behind would soon be
-    // another channel's.
     for (int i = 0; i < device->channelListSize(); ++i) {
         const int avIndex = device->channel(i)->mode(true).avIndex;
         if (avIndex >= 0)
@@ -102,6 +100,8 @@ void IoConnect::disConnectDevice(Device* device)
     }
     IOTC_Session_Close(device->sid); // and with it its AV channels
     device->sid = -1;
+    // Of all there are, not only of those that count by now, and before anybody hears of it: an
+    // index that stays behind would soon be another channel's.
     for (int i = 0; i < device->channelListSize(); ++i) {
         device->channel(i)->mode(true).avIndex = -1;
         device->channel(i)->mode(false).avIndex = -1;

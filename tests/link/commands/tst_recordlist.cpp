@@ -28,7 +28,7 @@ private slots:
     void messageOfAHeadAloneHasNoBlocks();
 
 private:
-    const LocalZone zone_{"XXX-2"};
+    const LocalZone zone_{"EET-2"}; // two hours east, the whole year
 };
 
 namespace {

@@ -154,16 +154,11 @@ void TestLive::eightByteCommandMovesTheHead()
 {
     constexpr quint8 right = 4;
     const double before = pan();
-    IOCONNECT_PTZ_DATA data;
-    data.channel = channel_;
-    data.type = 4097;
-    data.size = 8;
     SMsgAVIoctrlIPCPtzCmd message;
     message.speed = 5;
     message.control = right;
-    data.command = right;
     QSignalSpy moved(io(), &IoConnect::ptzSuccessMsg);
-    io()->ptzIPC(data, message);
+    io()->ptzIPC({channel_, 4097, right, 8}, message);
     QTRY_COMPARE_WITH_TIMEOUT(moved.size(), 1, patienceMs);
     QCOMPARE(moved.first().at(1).toInt(), int(right));
     QTRY_VERIFY_WITH_TIMEOUT(pan() > before, patienceMs);
@@ -173,16 +168,11 @@ void TestLive::twelveByteCommandMovesTheHead()
 {
     constexpr quint8 left = 1;
     const double before = pan();
-    IOCONNECT_PTZ_DATA data;
-    data.channel = channel_;
-    data.type = 4114;
-    data.size = 12;
     SMsgAVIoctrlPtzCmd message;
     message.speed = 5;
     message.control = left;
-    data.command = left;
     QSignalSpy moved(io(), &IoConnect::ptzSuccessMsg);
-    io()->ptzDVR(data, message);
+    io()->ptzDVR({channel_, 4114, left, 12}, message);
     QTRY_COMPARE_WITH_TIMEOUT(moved.size(), 1, patienceMs);
     QCOMPARE(moved.first().at(1).toInt(), int(left));
     QTRY_VERIFY_WITH_TIMEOUT(pan() < before, patienceMs);
@@ -190,17 +180,12 @@ void TestLive::twelveByteCommandMovesTheHead()
 
 void TestLive::cruiseIsToldByTheNextQuestion()
 {
-    IOCONNECT_PTZ_DATA data;
-    data.channel = channel_;
-    data.type = 4114;
-    data.size = 12;
     SMsgAVIoctrlPtzCmd message;
     message.speed = 5;
     for (const int command : {29, 0}) { // the auto cruise, and its end
         message.control = static_cast<quint8>(command);
-        data.command = command;
         QSignalSpy state(io(), &IoConnect::getPtzMsg);
-        io()->ptzDVR(data, message);
+        io()->ptzDVR({channel_, 4114, command, 12}, message);
         io()->getPtz(channel_);
         QTRY_VERIFY_WITH_TIMEOUT(!state.isEmpty(), patienceMs);
         QTRY_COMPARE_WITH_TIMEOUT(channel_->ptzState, command == 29 ? 1 : 0, patienceMs);
