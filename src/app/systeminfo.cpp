@@ -134,6 +134,14 @@ void SystemInfo::setBorderRadius(QWidget* widget) const
     widget->setStyleSheet(sheet);
 }
 
+void SystemInfo::setOpenGlVersion(const QString& version)
+{
+    if (version == openGlVersion_)
+        return;
+    openGlVersion_ = version;
+    emit loadOpenGlVersionMsg(version);
+}
+
 bool SystemInfo::event(QEvent* event)
 {
     if (event->type() != DebugEvent_getDebug::number)

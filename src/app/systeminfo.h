@@ -64,6 +64,11 @@ public:
     void setFontSize(QWidget* widget, FontSize which) const;
     void setBorderRadius(QWidget* widget) const;
 
+    // As the first tile that draws finds it; empty before. Emits loadOpenGlVersionMsg when it has
+    // changed.
+    void setOpenGlVersion(const QString& version);
+    QString openGlVersion() const { return openGlVersion_; }
+
     bool event(QEvent* event) override;
 
 signals:
@@ -78,6 +83,7 @@ signals:
 private:
     double ratio_ = 1.0;
     const QString version_ = QStringLiteral("1.7.2.320");
+    QString openGlVersion_;
     SYSTEM_TYPE_LAGNUAGE language_ = English;
     std::unique_ptr<QTranslator> translator_;
 };

@@ -8,6 +8,7 @@
 #include <QDateTime>
 #include <QList>
 #include <QMetaType>
+#include <QSize>
 
 #include <array>
 #include <atomic>
@@ -38,6 +39,7 @@ struct ChannelMode
     // Written once, by the first decode task (release), read by the tile (acquire); the pixels
     // have no lock, and torn pictures are accepted. Made with new[], freed with the channel.
     std::atomic<std::uint8_t*> yuvBuffer{nullptr};
+    Relaxed<QSize> pictureSize{QSize(0, 0)}; // of the picture in it, pixels; fits the buffer
 
     // Recorder and decoder tasks only, under the locks of the stream.
     int recordCodec = 0;

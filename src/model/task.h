@@ -73,8 +73,9 @@ private:
     Work work_;
 };
 
-// Runs `work`, a copyable function object, on the global pool. Main thread. `channel` may be null;
-// its device is kept alive until `work` has returned and its captures are gone.
+// Runs `work`, a copyable function object, on the global pool. Main thread, or a task that holds the
+// channel itself. `channel` may be null; its device is kept alive until `work` has returned and its
+// captures are gone.
 template <typename Work>
 void runTask(Channel* channel, Work work)
 {

@@ -94,6 +94,16 @@ Result readSearchScope(const QString& key, const QJsonValue& value, Deployment& 
     return {};
 }
 
+Result readDecoder(const QString& key, const QJsonValue& value, Deployment& deployment)
+{
+    const QString decoder = value.toString();
+    if (decoder != QLatin1String("throughput") && decoder != QLatin1String("lowDelay"))
+        return expected(key, "the text \"throughput\" or \"lowDelay\"");
+    deployment.decoder = decoder == QLatin1String("lowDelay") ? Deployment::Decoder::LowDelay
+                                                              : Deployment::Decoder::Throughput;
+    return {};
+}
+
 // "host:port" or "[v6 address]:port"
 std::optional<Deployment::Endpoint> endpointOf(const QString& text)
 {
@@ -177,7 +187,7 @@ Deployment read(QFile& file)
 std::variant<Deployment, Error> Deployment::parse(const QByteArray& json)
 {
     static constexpr Entry entries[] = {
-        {"cloud", readCloud}, {"brand", readBrand}, {"link", readLink}};
+        {"cloud", readCloud}, {"brand", readBrand}, {"link", readLink}, {"decoder", readDecoder}};
     QJsonParseError syntax{};
     const QJsonDocument document = QJsonDocument::fromJson(json, &syntax);
     if (syntax.error != QJsonParseError::NoError)

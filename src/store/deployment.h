@@ -13,6 +13,9 @@
 struct Deployment
 {
     enum class SearchScope { Lan, Loopback };
+    // LowDelay gives up the decoder's threads, which keep some pictures back, and looks for new
+    // frames more often: a shorter way to the screen for more work.
+    enum class Decoder { Throughput, LowDelay };
 
     struct Endpoint
     {
@@ -23,6 +26,7 @@ struct Deployment
     QString cloudBaseUrl; // https address without a slash at its end; empty: no cloud service
     int brand = 0; // 0, 149, 150 or 151
     SearchScope searchScope = SearchScope::Lan;
+    Decoder decoder = Decoder::Throughput;
     QMap<QString, Endpoint> addressBook; // by UID, 20 characters A-Z 0-9
 
     // The deployment of this process: read at the first call, from the main thread, before any

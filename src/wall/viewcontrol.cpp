@@ -23,14 +23,24 @@ ViewControl* ViewControl::instance()
 
 ViewControl::ViewControl()
 {
-    if (theViewControl == nullptr)
-        theViewControl = this;
+    if (theViewControl != nullptr)
+        return;
+    theViewControl = this;
+    scale_ = Location::instance()->getScale();
 }
 
 ViewControl::~ViewControl()
 {
     if (theViewControl == this)
         theViewControl = nullptr;
+}
+
+void ViewControl::setScale(int scale)
+{
+    if (scale == scale_)
+        return;
+    scale_ = scale;
+    emit scaleChangeMsg();
 }
 
 void ViewControl::setRecord(Channel* channel, bool isRecord)

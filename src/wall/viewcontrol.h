@@ -6,6 +6,7 @@
 
 class Channel;
 class Device;
+class QMouseEvent;
 
 // The model of the video wall. Singleton, main thread; lives to the end of the process.
 //
@@ -25,6 +26,11 @@ public:
     // The mode of the whole program: true is live view, false is remote playback.
     virtual bool getIsLive() const { return isLive_; }
 
+    // How tiles fit pictures: 0 fills the tile, 1 keeps 4:3, 2 keeps 16:9. Emits scaleChangeMsg
+    // when it has changed.
+    int getScale() const { return scale_; }
+    void setScale(int scale);
+
     // Starts or stops recording the channel in the current mode.
     virtual void setRecord(Channel* channel, bool isRecord);
 
@@ -37,10 +43,16 @@ public:
 
 signals:
     void recordMsg(Channel* channel, bool isRecord);
+    void quitMsg(); // the program is closing
+    void windowNumberChangeMsg();
+    void openedSubWindowMenuMsg(Device* device, Channel* channel, QMouseEvent* event);
+    void glErrorMsg(int code, const QString& text);
+    void scaleChangeMsg();
 
 private slots:
     void stopSaveRecord(Channel* channel);
 
 private:
     bool isLive_ = true;
+    int scale_ = 0;
 };

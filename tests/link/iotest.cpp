@@ -91,6 +91,12 @@ public:
     int count = 0;
 };
 
+ScriptedLink& freshLink()
+{
+    ScriptedLink::instance().reset();
+    return ScriptedLink::instance();
+}
+
 } // namespace
 
 void HappeningRecord::watch(QObject* sender)
@@ -193,15 +199,15 @@ void SpyViewControl::closeDevice(Device* device)
 }
 
 IoTest::IoTest(int channelCount)
-    : link(ScriptedLink::instance())
-    , decode(record)
+    : link(freshLink())
     , audioSend(record)
     , viewControl(record)
+    , decode(record)
+    , io(IoConnect::instance()) // which the neighbours have built
     , device(new Device)
 {
     qRegisterMetaType<Channel*>("Channel*");
-    link.reset();
-    io = std::make_unique<IoConnect>();
+    QObject::disconnect(io.get(), nullptr, &decode, nullptr); // no stream asks for frames here
     if (!settle())
         qFatal("the layer does not come up");
     link.openChannel(link.openSession());

@@ -132,9 +132,10 @@ public:
 
     ScriptedLink& link;
     HappeningRecord record;
-    SpyDecode decode;
+    // The microphone first: whoever builds IoConnect has it take the one there is.
     SpyAudioSend audioSend;
     SpyViewControl viewControl;
+    SpyDecode decode;
     std::unique_ptr<IoConnect> io;
     DeviceOwner device;
 };

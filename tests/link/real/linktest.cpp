@@ -24,7 +24,9 @@ void LinkTest::initTestCase()
 {
     qRegisterMetaType<Channel*>("Channel*");
     QVERIFY2(bridge_.start(), bridge_.log().constData());
-    io_ = std::make_unique<IoConnect>();
+    io_.reset(IoConnect::instance());
+    decode_ = std::make_unique<Decode>();
+    QObject::disconnect(io(), nullptr, decode_.get(), nullptr); // the tests fetch the frames
     QSignalSpy up(io(), &IoConnect::tutkInitSuccessMsg);
     QTRY_COMPARE_WITH_TIMEOUT(up.size(), 1, patienceMs);
 }
@@ -42,6 +44,7 @@ void LinkTest::cleanupTestCase()
     QThreadPool::globalInstance()->waitForDone();
     QCoreApplication::sendPostedEvents();
     QThreadPool::globalInstance()->waitForDone();
+    decode_.reset();
     io_.reset();
     QThreadPool::globalInstance()->waitForDone();
 }

@@ -4,6 +4,7 @@
 #include "bridgeprocess.h"
 #include "link/ioconnect.h"
 #include "media/audiosend.h"
+#include "media/decode.h"
 #include "model/device.h"
 
 #include <QObject>
@@ -75,5 +76,6 @@ private:
     BridgeProcess bridge_;
     CountingMicrophone microphone_; // the first one there is, so the one that the link takes
     std::unique_ptr<IoConnect> io_;
+    std::unique_ptr<Decode> decode_;
     std::vector<DeviceOwner> devices_;
 };

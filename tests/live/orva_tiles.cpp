@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Shows channels of one device, live, in a borderless window at 0,0: to look at, to measure, and to
+// leave running.
+#include "app/startup.h"
+#include "tilewall.h"
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QTimer>
+
+#include <cstdio>
+
+namespace {
+
+void addOptions(QCommandLineParser& options)
+{
+    const auto add = [&options](const char* name, const char* what, const char* fallback) {
+        options.addOption({QString::fromLatin1(name), QString::fromLatin1(what),
+            QStringLiteral("value"), QString::fromLatin1(fallback)});
+    };
+    add("uid", "UID of the device", "");
+    add("password", "its password", "");
+    add("tiles", "number of channels", "1");
+    add("seconds", "how long to run, 0 until closed", "0");
+    add("width", "of the window, pixels", "1920");
+    add("height", "of the window, pixels", "1080");
+    options.addHelpOption();
+}
+
+void printLine(const QString& line)
+{
+    std::printf("%s\n", qPrintable(line));
+    std::fflush(stdout);
+}
+
+// "ready", then how long each tile has waited for its first picture, in milliseconds.
+void printReady(const TileWall& wall)
+{
+    QStringList waits;
+    for (const auto& wait : wall.firstPictures())
+        waits.append(QString::number(double(wait.count()) / 1000, 'f', 1));
+    printLine(QStringLiteral("ready"));
+    printLine(QStringLiteral("first-picture-ms ") + waits.join(QLatin1Char(' ')));
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    QCoreApplication::setAttribute(Qt::AA_UseDesktopOpenGL);
+    QApplication app(argc, argv);
+    prepareApplication();
+    QCommandLineParser options;
+    addOptions(options);
+    options.process(app);
+    const auto number = [&options](const char* name) {
+        return options.value(QString::fromLatin1(name)).toInt();
+    };
+
+    TileWall wall(options.value(QStringLiteral("uid")), options.value(QStringLiteral("password")),
+        std::clamp(number("tiles"), 1, 64));
+    QObject::connect(&wall, &TileWall::allShown, &wall, [&wall] { printReady(wall); });
+    QObject::connect(&wall, &TileWall::failed, &wall,
+        [](const QString& text) { printLine(QStringLiteral("failed: ") + text); });
+    wall.setGeometry(0, 0, number("width"), number("height"));
+    wall.show();
+    if (number("seconds") > 0)
+        QTimer::singleShot(number("seconds") * 1000, &app, &QCoreApplication::quit);
+    return QApplication::exec();
+}
