@@ -44,6 +44,9 @@ public slots:
     void reset();
 
 signals:
+    // The next frame of the channel goes to the decoder: its picture will replace the one that
+    // stands in the YUV buffer. For slots that return soon.
+    void frameReceivedMsg(Channel* channel);
     // A new picture stands in the channel's YUV buffer.
     void decodeSuccess(Channel* channel, bool isLive, int width, int height, uint timestamp);
     // Of the second that has just ended.

@@ -3,6 +3,7 @@
 
 #include "AVAPIs.h"
 #include "media/audio.h"
+#include "media/decode.h"
 #include "media/video.h"
 #include "model/events.h"
 #include "store/deployment.h"
@@ -230,8 +231,10 @@ void Stream::takeVideo(int result, std::unique_ptr<char[]> frame, const MyFrameI
         video_->openDecoder(info, firstWidth, firstHeight, timeBaseDen);
     PacketPtr packet = packetOf(std::move(frame), result);
     startRecordOnKeyFrame(info);
-    if (packet)
-        video_->pushPacket(std::move(packet), info);
+    if (!packet)
+        return;
+    emit Decode::instance()->frameReceivedMsg(channel_);
+    video_->pushPacket(std::move(packet), info);
 }
 
 // A recording begins with a key frame; nothing else waits for one.

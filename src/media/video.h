@@ -65,7 +65,7 @@ public:
 
     // Two seconds at 25 frames a second, and as many bytes as the link layer itself keeps.
     static constexpr std::size_t mostWaitingFrames = 50;
-    static constexpr std::size_t mostWaitingBytes = 8 * 1024 * 1024;
+    static constexpr std::size_t mostWaitingBytes = std::size_t{8} * 1024 * 1024;
 
 private:
     struct Frame

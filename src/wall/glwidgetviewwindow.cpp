@@ -103,6 +103,7 @@ void GlWidgetViewWindow::connectSenders()
     const Dev* dev = Dev::instance();
     using Tile = GlWidgetViewWindow;
     connect(Decode::instance(), &Decode::decodeSuccess, this, &Tile::showImg);
+    connect(Decode::instance(), &Decode::frameReceivedMsg, this, &Tile::finishPicture);
     connect(io, &IoConnect::videoRequestStopSuccessMsg, this, &Tile::cleanScreen);
     connect(io, &IoConnect::stopReplaySuccessMsg, this, &Tile::cleanScreen);
     connect(io, &IoConnect::waitingStreamMsg, this, &Tile::showWaiting);
@@ -156,7 +157,13 @@ void GlWidgetViewWindow::showImg(
     pictureSize_ = QSize(width, height);
     yuvData_ = channel_->mode(isLive).yuvBuffer.load(std::memory_order_acquire);
     timestamp_ = timestamp;
-    RepaintPacer::of(window())->repaint(this);
+    RepaintPacer::of(window())->pictureCame(this);
+}
+
+void GlWidgetViewWindow::finishPicture(Channel* channel)
+{
+    if (channel == channel_ && yuvData_ != nullptr)
+        RepaintPacer::of(window())->pictureGoes(this);
 }
 
 void GlWidgetViewWindow::reloadImg()

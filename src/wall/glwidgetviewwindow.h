@@ -83,6 +83,7 @@ private:
     void enterWaiting();
     void leaveWaiting();
     void showRecord(bool isRecording);
+    void finishPicture(Channel* channel);
     void forgetDevice(const Device* device);
 
     Channel* channel_ = nullptr;

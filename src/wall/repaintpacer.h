@@ -5,15 +5,16 @@
 #include <QObject>
 #include <QPointer>
 #include <QTimer>
-#include <QVector>
 #include <QWidget>
 
 #include <chrono>
+#include <vector>
 
 // Brings the repaints of a window's tiles together. Whenever one tile repaints, Qt puts the whole
 // window together anew: tiles that each follow their own camera would make that as many times a second
-// as pictures come. Here a repaint waits until a frame time has passed since the one before; the first
-// after a pause does not wait. Child of the window; main thread.
+// as pictures come. Here a new picture waits until every tile that plays has one, and at most for the
+// time that the pacer is given: one frame time, or less where delay counts for more than work.
+// Child of the window; main thread.
 class RepaintPacer final : public QObject
 {
     Q_OBJECT
@@ -22,18 +23,26 @@ public:
     // The one of this top-level window.
     static RepaintPacer* of(QWidget* window);
 
-    // Calls update() of `tile`, which may die before.
-    void repaint(QWidget* tile);
-
-    // Short enough that no picture of a tile is overwritten by its next one, which may come 20 ms later
-    // since that is how often devices are asked; and about what a screen can show.
-    static constexpr std::chrono::milliseconds frameTime{16};
+    // `tile` has a new picture to paint. It may die at any time.
+    void pictureCame(QWidget* tile);
+    // The picture of `tile` is about to be replaced by the next one: where it waits, it is painted
+    // before this returns, so that it is seen.
+    void pictureGoes(const QWidget* tile);
 
 private:
+    struct Tile
+    {
+        QPointer<QWidget> widget;
+        qint64 lastPicture = 0; // milliseconds of clock_
+        bool waiting = false;
+    };
+
     explicit RepaintPacer(QWidget* window);
+    Tile& entryOf(QWidget* tile);
+    bool allHavePictures() const;
     void repaintAll();
 
-    QVector<QPointer<QWidget>> waiting_;
-    QElapsedTimer sinceLast_; // repaint
-    QTimer timer_;
+    std::vector<Tile> tiles_; // that have had a picture
+    QElapsedTimer clock_;
+    QTimer timer_; // runs while a picture waits
 };
