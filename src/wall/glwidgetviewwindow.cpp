@@ -63,6 +63,9 @@ GlWidgetViewWindow::~GlWidgetViewWindow()
     delete recordIndicator_;
     delete frameWidget_;
     releaseGl();
+    // It ends in the base class's destructor, where there is no tile any more to be told.
+    if (context() != nullptr)
+        disconnect(context(), nullptr, this, nullptr);
 }
 
 void GlWidgetViewWindow::buildFrame()

@@ -3,6 +3,8 @@
 
 #include "store/deployment.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 
 using namespace std::chrono_literals;
@@ -13,6 +15,10 @@ namespace {
 constexpr std::chrono::milliseconds frameTime = 40ms;
 // A tile without a picture for so long plays no more, and nobody waits for it.
 constexpr std::chrono::milliseconds playing = 3 * frameTime;
+
+// What follows a repaint before the next one may come, as a part of the time that it took: frames
+// must be fetched, and users be heard, also where painting alone could fill the main thread.
+constexpr int shareOfOthers = 4;
 
 std::chrono::milliseconds longestWait()
 {
@@ -34,30 +40,27 @@ RepaintPacer::RepaintPacer(QWidget* window)
     clock_.start();
     timer_.setSingleShot(true);
     timer_.setTimerType(Qt::PreciseTimer);
-    timer_.setInterval(longestWait());
     connect(&timer_, &QTimer::timeout, this, &RepaintPacer::repaintAll);
 }
 
 void RepaintPacer::pictureCame(QWidget* tile)
 {
+    const qint64 now = clock_.elapsed();
     Tile& entry = entryOf(tile);
-    entry.lastPicture = clock_.elapsed();
+    entry.lastPicture = now;
     entry.waiting = true;
-    if (allHavePictures())
-        repaintAll();
-    else if (!timer_.isActive())
-        timer_.start();
+    const qint64 wait = allHavePictures(now) ? 0 : longestWait().count();
+    const auto due = static_cast<int>(std::max(wait, nextRepaint_ - now));
+    if (!timer_.isActive() || timer_.remainingTime() > due)
+        timer_.start(due);
 }
 
 void RepaintPacer::pictureGoes(const QWidget* tile)
 {
-    const auto entry = std::find_if(
-        tiles_.begin(), tiles_.end(), [tile](const Tile& known) { return known.widget == tile; });
-    if (entry == tiles_.end() || !entry->waiting)
-        return;
-    const QPointer<QWidget> widget = entry->widget;
-    repaintAll();
-    widget->repaint(); // and with it all that wait for the event loop
+    const bool waits = std::any_of(tiles_.begin(), tiles_.end(),
+        [tile](const Tile& known) { return known.widget == tile && known.waiting; });
+    if (waits && clock_.elapsed() >= nextRepaint_)
+        repaintAll();
 }
 
 RepaintPacer::Tile& RepaintPacer::entryOf(QWidget* tile)
@@ -70,9 +73,8 @@ RepaintPacer::Tile& RepaintPacer::entryOf(QWidget* tile)
     return entry != tiles_.end() ? *entry : tiles_.emplace_back(Tile{tile});
 }
 
-bool RepaintPacer::allHavePictures() const
+bool RepaintPacer::allHavePictures(qint64 now) const
 {
-    const qint64 now = clock_.elapsed();
     return std::all_of(tiles_.begin(), tiles_.end(), [now](const Tile& tile) {
         return tile.waiting || tile.widget.isNull() || !tile.widget->isVisible()
             || now - tile.lastPicture > playing.count();
@@ -82,9 +84,14 @@ bool RepaintPacer::allHavePictures() const
 void RepaintPacer::repaintAll()
 {
     timer_.stop();
+    const qint64 start = clock_.elapsed();
     for (Tile& tile : tiles_) {
         if (tile.waiting && tile.widget)
             tile.widget->update();
         tile.waiting = false;
     }
+    // Now, and not once the event loop comes to it: so it is known how long it took.
+    QCoreApplication::sendPostedEvents(parent(), QEvent::UpdateRequest);
+    const qint64 end = clock_.elapsed();
+    nextRepaint_ = end + (end - start) / shareOfOthers;
 }

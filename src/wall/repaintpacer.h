@@ -12,8 +12,9 @@
 
 // Brings the repaints of a window's tiles together. Whenever one tile repaints, Qt puts the whole
 // window together anew: tiles that each follow their own camera would make that as many times a second
-// as pictures come. Here a new picture waits until every tile that plays has one, and at most for the
-// time that the pacer is given: one frame time, or less where delay counts for more than work.
+// as pictures come. Here a new picture waits until every tile that plays has one, and at most for one
+// frame time, or less where delay counts for more than work. Where painting takes nearly all the time
+// there is, some is left to everything else, and pictures that come meanwhile are not seen.
 // Child of the window; main thread.
 class RepaintPacer final : public QObject
 {
@@ -26,7 +27,7 @@ public:
     // `tile` has a new picture to paint. It may die at any time.
     void pictureCame(QWidget* tile);
     // The picture of `tile` is about to be replaced by the next one: where it waits, it is painted
-    // before this returns, so that it is seen.
+    // before this returns, so that it is seen, unless painting has had its share of time.
     void pictureGoes(const QWidget* tile);
 
 private:
@@ -39,10 +40,11 @@ private:
 
     explicit RepaintPacer(QWidget* window);
     Tile& entryOf(QWidget* tile);
-    bool allHavePictures() const;
+    bool allHavePictures(qint64 now) const;
     void repaintAll();
 
     std::vector<Tile> tiles_; // that have had a picture
     QElapsedTimer clock_;
+    qint64 nextRepaint_ = 0; // not before, milliseconds of clock_
     QTimer timer_; // runs while a picture waits
 };
