@@ -798,6 +798,33 @@
     </message>
 </context>
 <context>
+    <name>GlWidgetViewWindow</name>
+    <message>
+        <source>fail to create vertex shader</source>
+        <translation>Vertex-Shader konnte nicht erstellt werden</translation>
+    </message>
+    <message>
+        <source>fail to create fragment shader</source>
+        <translation>Fragment-Shader konnte nicht erstellt werden</translation>
+    </message>
+    <message>
+        <source>fail to add vertex shader</source>
+        <translation>Vertex-Shader konnte nicht hinzugefügt werden</translation>
+    </message>
+    <message>
+        <source>fail to add fragment shader</source>
+        <translation>Fragment-Shader konnte nicht hinzugefügt werden</translation>
+    </message>
+    <message>
+        <source>fail to link shaders</source>
+        <translation>Shader konnten nicht gelinkt werden</translation>
+    </message>
+    <message>
+        <source>fail to bind shaders</source>
+        <translation>Shader konnten nicht gebunden werden</translation>
+    </message>
+</context>
+<context>
     <name>IoConnect</name>
     <message>
         <source>Not Found Input Device.</source>

@@ -798,6 +798,33 @@
     </message>
 </context>
 <context>
+    <name>GlWidgetViewWindow</name>
+    <message>
+        <source>fail to create vertex shader</source>
+        <translation>fail to create vertex shader</translation>
+    </message>
+    <message>
+        <source>fail to create fragment shader</source>
+        <translation>fail to create fragment shader</translation>
+    </message>
+    <message>
+        <source>fail to add vertex shader</source>
+        <translation>fail to add vertex shader</translation>
+    </message>
+    <message>
+        <source>fail to add fragment shader</source>
+        <translation>fail to add fragment shader</translation>
+    </message>
+    <message>
+        <source>fail to link shaders</source>
+        <translation>fail to link shaders</translation>
+    </message>
+    <message>
+        <source>fail to bind shaders</source>
+        <translation>fail to bind shaders</translation>
+    </message>
+</context>
+<context>
     <name>IoConnect</name>
     <message>
         <source>Not Found Input Device.</source>

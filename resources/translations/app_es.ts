@@ -798,6 +798,33 @@
     </message>
 </context>
 <context>
+    <name>GlWidgetViewWindow</name>
+    <message>
+        <source>fail to create vertex shader</source>
+        <translation>No se pudo crear el sombreador de vértices</translation>
+    </message>
+    <message>
+        <source>fail to create fragment shader</source>
+        <translation>No se pudo crear el sombreador de fragmentos</translation>
+    </message>
+    <message>
+        <source>fail to add vertex shader</source>
+        <translation>No se pudo añadir el sombreador de vértices</translation>
+    </message>
+    <message>
+        <source>fail to add fragment shader</source>
+        <translation>No se pudo añadir el sombreador de fragmentos</translation>
+    </message>
+    <message>
+        <source>fail to link shaders</source>
+        <translation>No se pudieron enlazar los sombreadores</translation>
+    </message>
+    <message>
+        <source>fail to bind shaders</source>
+        <translation>No se pudieron activar los sombreadores</translation>
+    </message>
+</context>
+<context>
     <name>IoConnect</name>
     <message>
         <source>Not Found Input Device.</source>

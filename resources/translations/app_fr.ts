@@ -798,6 +798,33 @@
     </message>
 </context>
 <context>
+    <name>GlWidgetViewWindow</name>
+    <message>
+        <source>fail to create vertex shader</source>
+        <translation>Impossible de créer le vertex shader</translation>
+    </message>
+    <message>
+        <source>fail to create fragment shader</source>
+        <translation>Impossible de créer le fragment shader</translation>
+    </message>
+    <message>
+        <source>fail to add vertex shader</source>
+        <translation>Impossible d’ajouter le vertex shader</translation>
+    </message>
+    <message>
+        <source>fail to add fragment shader</source>
+        <translation>Impossible d’ajouter le fragment shader</translation>
+    </message>
+    <message>
+        <source>fail to link shaders</source>
+        <translation>Impossible de lier les shaders</translation>
+    </message>
+    <message>
+        <source>fail to bind shaders</source>
+        <translation>Impossible d’activer les shaders</translation>
+    </message>
+</context>
+<context>
     <name>IoConnect</name>
     <message>
         <source>Not Found Input Device.</source>

@@ -798,6 +798,33 @@
     </message>
 </context>
 <context>
+    <name>GlWidgetViewWindow</name>
+    <message>
+        <source>fail to create vertex shader</source>
+        <translation>Impossibile creare il vertex shader</translation>
+    </message>
+    <message>
+        <source>fail to create fragment shader</source>
+        <translation>Impossibile creare il fragment shader</translation>
+    </message>
+    <message>
+        <source>fail to add vertex shader</source>
+        <translation>Impossibile aggiungere il vertex shader</translation>
+    </message>
+    <message>
+        <source>fail to add fragment shader</source>
+        <translation>Impossibile aggiungere il fragment shader</translation>
+    </message>
+    <message>
+        <source>fail to link shaders</source>
+        <translation>Impossibile collegare gli shader</translation>
+    </message>
+    <message>
+        <source>fail to bind shaders</source>
+        <translation>Impossibile attivare gli shader</translation>
+    </message>
+</context>
+<context>
     <name>IoConnect</name>
     <message>
         <source>Not Found Input Device.</source>

@@ -798,6 +798,33 @@
     </message>
 </context>
 <context>
+    <name>GlWidgetViewWindow</name>
+    <message>
+        <source>fail to create vertex shader</source>
+        <translation>頂点シェーダーを作成できませんでした</translation>
+    </message>
+    <message>
+        <source>fail to create fragment shader</source>
+        <translation>フラグメントシェーダーを作成できませんでした</translation>
+    </message>
+    <message>
+        <source>fail to add vertex shader</source>
+        <translation>頂点シェーダーを追加できませんでした</translation>
+    </message>
+    <message>
+        <source>fail to add fragment shader</source>
+        <translation>フラグメントシェーダーを追加できませんでした</translation>
+    </message>
+    <message>
+        <source>fail to link shaders</source>
+        <translation>シェーダーをリンクできませんでした</translation>
+    </message>
+    <message>
+        <source>fail to bind shaders</source>
+        <translation>シェーダーをバインドできませんでした</translation>
+    </message>
+</context>
+<context>
     <name>IoConnect</name>
     <message>
         <source>Not Found Input Device.</source>

@@ -798,6 +798,33 @@
     </message>
 </context>
 <context>
+    <name>GlWidgetViewWindow</name>
+    <message>
+        <source>fail to create vertex shader</source>
+        <translation>Vertexshader kan niet worden gemaakt</translation>
+    </message>
+    <message>
+        <source>fail to create fragment shader</source>
+        <translation>Fragmentshader kan niet worden gemaakt</translation>
+    </message>
+    <message>
+        <source>fail to add vertex shader</source>
+        <translation>Vertexshader kan niet worden toegevoegd</translation>
+    </message>
+    <message>
+        <source>fail to add fragment shader</source>
+        <translation>Fragmentshader kan niet worden toegevoegd</translation>
+    </message>
+    <message>
+        <source>fail to link shaders</source>
+        <translation>Shaders kunnen niet worden gekoppeld</translation>
+    </message>
+    <message>
+        <source>fail to bind shaders</source>
+        <translation>Shaders kunnen niet worden geactiveerd</translation>
+    </message>
+</context>
+<context>
     <name>IoConnect</name>
     <message>
         <source>Not Found Input Device.</source>

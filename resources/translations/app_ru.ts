@@ -798,6 +798,33 @@
     </message>
 </context>
 <context>
+    <name>GlWidgetViewWindow</name>
+    <message>
+        <source>fail to create vertex shader</source>
+        <translation>Не удалось создать вершинный шейдер</translation>
+    </message>
+    <message>
+        <source>fail to create fragment shader</source>
+        <translation>Не удалось создать фрагментный шейдер</translation>
+    </message>
+    <message>
+        <source>fail to add vertex shader</source>
+        <translation>Не удалось добавить вершинный шейдер</translation>
+    </message>
+    <message>
+        <source>fail to add fragment shader</source>
+        <translation>Не удалось добавить фрагментный шейдер</translation>
+    </message>
+    <message>
+        <source>fail to link shaders</source>
+        <translation>Не удалось скомпоновать шейдеры</translation>
+    </message>
+    <message>
+        <source>fail to bind shaders</source>
+        <translation>Не удалось подключить шейдеры</translation>
+    </message>
+</context>
+<context>
     <name>IoConnect</name>
     <message>
         <source>Not Found Input Device.</source>

@@ -798,6 +798,33 @@
     </message>
 </context>
 <context>
+    <name>GlWidgetViewWindow</name>
+    <message>
+        <source>fail to create vertex shader</source>
+        <translation>创建顶点着色器失败</translation>
+    </message>
+    <message>
+        <source>fail to create fragment shader</source>
+        <translation>创建片段着色器失败</translation>
+    </message>
+    <message>
+        <source>fail to add vertex shader</source>
+        <translation>添加顶点着色器失败</translation>
+    </message>
+    <message>
+        <source>fail to add fragment shader</source>
+        <translation>添加片段着色器失败</translation>
+    </message>
+    <message>
+        <source>fail to link shaders</source>
+        <translation>链接着色器失败</translation>
+    </message>
+    <message>
+        <source>fail to bind shaders</source>
+        <translation>绑定着色器失败</translation>
+    </message>
+</context>
+<context>
     <name>IoConnect</name>
     <message>
         <source>Not Found Input Device.</source>

@@ -798,6 +798,33 @@
     </message>
 </context>
 <context>
+    <name>GlWidgetViewWindow</name>
+    <message>
+        <source>fail to create vertex shader</source>
+        <translation>建立頂點著色器失敗</translation>
+    </message>
+    <message>
+        <source>fail to create fragment shader</source>
+        <translation>建立片段著色器失敗</translation>
+    </message>
+    <message>
+        <source>fail to add vertex shader</source>
+        <translation>加入頂點著色器失敗</translation>
+    </message>
+    <message>
+        <source>fail to add fragment shader</source>
+        <translation>加入片段著色器失敗</translation>
+    </message>
+    <message>
+        <source>fail to link shaders</source>
+        <translation>連結著色器失敗</translation>
+    </message>
+    <message>
+        <source>fail to bind shaders</source>
+        <translation>綁定著色器失敗</translation>
+    </message>
+</context>
+<context>
     <name>IoConnect</name>
     <message>
         <source>Not Found Input Device.</source>
