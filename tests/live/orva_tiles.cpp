@@ -2,13 +2,18 @@
 // Shows channels of one device, live, in a borderless window at 0,0: to look at, to measure, and to
 // leave running.
 #include "app/startup.h"
+#include "picturetimes.h"
 #include "tilewall.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QTimer>
 
+#include <chrono>
 #include <cstdio>
+#include <memory>
+
+using namespace std::chrono_literals;
 
 namespace {
 
@@ -24,6 +29,8 @@ void addOptions(QCommandLineParser& options)
     add("seconds", "how long to run, 0 until closed", "0");
     add("width", "of the window, pixels", "1920");
     add("height", "of the window, pixels", "1080");
+    add("starts", "stop and start tile 0 so many times, then end", "0");
+    add("times", "a file for when frames were fetched and pictures decoded", "");
     options.addHelpOption();
 }
 
@@ -41,6 +48,28 @@ void printReady(const TileWall& wall)
         waits.append(QString::number(double(wait.count()) / 1000, 'f', 1));
     printLine(QStringLiteral("ready"));
     printLine(QStringLiteral("first-picture-ms ") + waits.join(QLatin1Char(' ')));
+}
+
+constexpr auto shownFor = 400ms;
+constexpr auto stoppedFor = 300ms;
+// So that starts fall anywhere between two pictures of the camera.
+constexpr auto step = 7ms;
+
+// Stops tile 0 and starts it again whenever it has shown a picture, and tells each time how long that
+// took, in milliseconds.
+void startAgain(TileWall& wall, int starts)
+{
+    QObject::connect(&wall, &TileWall::firstPicture, &wall, [&wall, starts, done = -1]() mutable {
+        if (++done > 0)
+            printLine(QStringLiteral("start-ms %1")
+                          .arg(double(wall.firstPictures().back().count()) / 1000, 0, 'f', 1));
+        if (done == starts)
+            QCoreApplication::quit();
+        else
+            QTimer::singleShot(shownFor + done * step, &wall, [&wall] { wall.stop(0); });
+    });
+    QObject::connect(&wall, &TileWall::stopped, &wall,
+        [&wall] { QTimer::singleShot(stoppedFor, &wall, [&wall] { wall.start(0); }); });
 }
 
 } // namespace
@@ -62,9 +91,19 @@ int main(int argc, char* argv[])
     QObject::connect(&wall, &TileWall::allShown, &wall, [&wall] { printReady(wall); });
     QObject::connect(&wall, &TileWall::failed, &wall,
         [](const QString& text) { printLine(QStringLiteral("failed: ") + text); });
+    int compositions = 0;
+    QObject::connect(&wall, &TileWall::composed, &wall, [&compositions] { ++compositions; });
+    if (number("starts") > 0)
+        startAgain(wall, number("starts"));
+    const QString timesFile = options.value(QStringLiteral("times"));
+    const auto times = timesFile.isEmpty() ? nullptr : std::make_unique<PictureTimes>();
     wall.setGeometry(0, 0, number("width"), number("height"));
     wall.show();
     if (number("seconds") > 0)
         QTimer::singleShot(number("seconds") * 1000, &app, &QCoreApplication::quit);
-    return QApplication::exec();
+    const int result = QApplication::exec();
+    printLine(QStringLiteral("compositions %1").arg(compositions));
+    if (times && !times->write(timesFile))
+        return 1;
+    return result;
 }

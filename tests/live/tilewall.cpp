@@ -22,11 +22,16 @@ TileWall::TileWall(const QString& uid, const QString& password, int tiles)
         place.tile = new GlWidgetViewWindow(this);
         place.tile->setChannel(device_.get(), device_->channel(i));
         connect(place.tile, &QOpenGLWidget::frameSwapped, this,
-            [this, &place] { picturePainted(place); });
+            [this, &place] { windowComposed(place); });
+        place.tile->installEventFilter(this);
     }
+    connect(places_.front().tile, &QOpenGLWidget::frameSwapped, this, &TileWall::composed);
     const IoConnect* io = IoConnect::instance();
     connect(io, &IoConnect::tutkInitSuccessMsg, this, &TileWall::open);
-    connect(io, &IoConnect::connectChannelSuccessMsg, this, &TileWall::startTile);
+    connect(io, &IoConnect::connectChannelSuccessMsg, this,
+        [this](Channel* channel) { start(channel->number()); });
+    connect(io, &IoConnect::videoRequestStopSuccessMsg, this,
+        [this](Channel* channel) { emit stopped(channel->number()); });
     connect(Decode::instance(), &Decode::decodeSuccess, this,
         [this](Channel* channel) { places_[std::size_t(channel->number())].decoded = true; });
     const auto fail = [this](Channel*, int, const QString& text) { emit failed(text); };
@@ -48,17 +53,33 @@ void TileWall::open()
     }
 }
 
-void TileWall::startTile(Channel* channel)
+void TileWall::start(int tile)
 {
-    Place& place = places_[std::size_t(channel->number())];
+    Place& place = places_[std::size_t(tile)];
     place.started = Clock::now();
     place.decoded = false;
-    IoConnect::instance()->startLive(channel);
+    place.painted = false;
+    place.shown = false;
+    IoConnect::instance()->startLive(device_->channel(tile));
 }
 
-void TileWall::picturePainted(Place& place)
+void TileWall::stop(int tile)
 {
-    if (place.shown || !place.decoded)
+    IoConnect::instance()->stopLife(device_->channel(tile), false);
+}
+
+bool TileWall::eventFilter(QObject* tile, QEvent* event)
+{
+    if (event->type() == QEvent::Paint) {
+        for (Place& place : places_)
+            place.painted = place.painted || (place.tile == tile && place.decoded);
+    }
+    return QWidget::eventFilter(tile, event);
+}
+
+void TileWall::windowComposed(Place& place)
+{
+    if (place.shown || !place.painted)
         return;
     place.shown = true;
     firstPictures_.push_back(
