@@ -49,6 +49,7 @@ void describe(AVCodecContext& codec, int width, int height, int timeBaseDen)
     codec.height = height;
     codec.bit_rate = 0;
     codec.codec_type = AVMEDIA_TYPE_VIDEO;
+    codec.log_level_offset = AV_LOG_TRACE; // a bad line would fill the log with damaged frames
     codec.thread_count = 4;
     codec.thread_type = FF_THREAD_FRAME;
     // Each of those threads keeps one picture back; the flag makes libavcodec do without them.

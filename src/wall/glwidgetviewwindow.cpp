@@ -270,6 +270,13 @@ void GlWidgetViewWindow::mouseDoubleClickEvent(QMouseEvent*)
         emit doubleClicked(channel_);
 }
 
+// A picture that came while the tile was hidden has not been painted.
+void GlWidgetViewWindow::showEvent(QShowEvent* event)
+{
+    QOpenGLWidget::showEvent(event);
+    update();
+}
+
 void GlWidgetViewWindow::initializeGL()
 {
     initializeOpenGLFunctions();
@@ -331,6 +338,11 @@ void GlWidgetViewWindow::releaseGl()
     if (!program_)
         return;
     makeCurrent();
+    // The default texture lives on with the contexts of other tiles. Mesa keeps this context's view of
+    // what is in it beyond the context's end, and reads it at the next upload: it must be empty.
+    glActiveTexture(GL_TEXTURE1);
+    glBindTexture(GL_TEXTURE_2D, 0);
+    glTexImage2D(GL_TEXTURE_2D, 0, GL_RED, 0, 0, 0, GL_RED, GL_UNSIGNED_BYTE, nullptr);
     for (auto& texture : textures_)
         texture.reset();
     program_.reset();
@@ -366,7 +378,8 @@ void GlWidgetViewWindow::paintGL()
     if (channel_ == nullptr || yuvData_ == nullptr)
         return;
     glClearColor(0, 0, 0, 0);
-    glClear(GL_COLOR_BUFFER_BIT);
+    // Qt empties the depth buffer once per composition only, and a tile may be painted twice before.
+    glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT);
     const QSize area = pictureArea(size(), scaleMode_);
     // One pixel less on each side keeps the picture off the frame.
     glViewport((width() - area.width()) / 2 + 1, (height() - area.height()) / 2 + 1,

@@ -16,6 +16,7 @@ WaitingCircle::WaitingCircle(QWidget* parent)
     const int scaled = qRound(side * SystemInfo::instance()->getRatio());
     movie_.setScaledSize(QSize(scaled, scaled));
     setFixedSize(scaled, scaled);
+    setStyleSheet(QStringLiteral("background:transparent")); // whatever its surroundings are given
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setMovie(&movie_);
     movie_.start();
