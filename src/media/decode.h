@@ -45,7 +45,7 @@ public slots:
 
 signals:
     // The next frame of the channel goes to the decoder: its picture will replace the one that
-    // stands in the YUV buffer. For slots that return soon.
+    // stands in the YUV buffer. The frame waits for its slots: a tile may paint that picture first.
     void frameReceivedMsg(Channel* channel);
     // A new picture stands in the channel's YUV buffer.
     void decodeSuccess(Channel* channel, bool isLive, int width, int height, uint timestamp);

@@ -41,6 +41,7 @@ std::unique_ptr<char[]> padded(const char* bytes, int size)
     return copy;
 }
 
+// NOLINTNEXTLINE(readability-non-const-parameter): the form is libavutil's
 void freeArray(void*, std::uint8_t* bytes)
 {
     delete[] reinterpret_cast<char*>(bytes);
@@ -174,7 +175,7 @@ void Stream::getAudio()
 // One fetch, on a thread of the pool.
 void Stream::receiveVideo(int avIndex)
 {
-    const QMutexLocker lock(&videoMutex_);
+    const std::lock_guard lock(videoMutex_);
     if (!running_)
         return;
     int result = avIndex;
@@ -197,7 +198,7 @@ void Stream::receiveVideo(int avIndex)
 
 void Stream::receiveAudio(int avIndex)
 {
-    const QMutexLocker lock(&audioMutex_);
+    const std::lock_guard lock(audioMutex_);
     if (!running_)
         return;
     int result = avIndex;

@@ -4,12 +4,12 @@
 #include "media/taskcount.h"
 #include "model/frameinfo.h"
 
-#include <QMutex>
 #include <QObject>
 #include <QTimer>
 
 #include <atomic>
 #include <memory>
+#include <mutex>
 
 class Audio;
 class Channel;
@@ -86,9 +86,9 @@ private:
 
     // Held across one call of the layer, and for the buffer that it fills. The buffer is as large
     // as a frame may be; frames leave it at their own size.
-    QMutex videoMutex_;
+    std::mutex videoMutex_;
     std::unique_ptr<char[]> videoBuffer_;
-    QMutex audioMutex_;
+    std::mutex audioMutex_;
 
     TaskCount tasks_;
 };

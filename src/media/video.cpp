@@ -89,10 +89,12 @@ int Video::openDecoder(const MyFrameInfo_t& info, int width, int height, int tim
     const AVCodec* kind = avcodec_find_decoder(id);
     if (kind == nullptr)
         return NoDecoder;
-    const QMutexLocker lock(&decodeMutex_);
+    const std::lock_guard lock(decodeMutex_);
     codec_.reset(avcodec_alloc_context3(kind));
-    if (!codec_)
+    if (!codec_ || !picture_) {
+        codec_.reset();
         return NoContext;
+    }
     describe(*codec_, width, height, timeBaseDen);
     av_opt_set(codec_->priv_data, "preset", "ultrafast", 0);
     // A context that did not open stays: every frame then fails in it, until the next stop.
@@ -103,7 +105,7 @@ void Video::pushPacket(PacketPtr packet, const MyFrameInfo_t& info)
 {
     if (!running_)
         return;
-    Frame frame{std::move(packet), info};
+    Frame frame{std::move(packet), info, Clock::now()};
     {
         const std::lock_guard lock(waitingMutex_);
         if (makeRoom(frame)) {
@@ -137,7 +139,10 @@ bool Video::makeRoom(const Frame& next)
 
 bool Video::fits(const Frame& next) const
 {
-    return waiting_.size() < mostWaitingFrames && waitingBytes_ + next.size() <= mostWaitingBytes;
+    return waiting_.empty()
+        || (next.received - waiting_.front().received <= longestWait
+            && waiting_.size() < mostWaitingFrames
+            && waitingBytes_ + next.size() <= mostWaitingBytes);
 }
 
 // The end where there is none.
@@ -148,7 +153,7 @@ Video::Queue::iterator Video::newestKey()
     return key == waiting_.rend() ? waiting_.end() : std::prev(key.base());
 }
 
-void Video::leaveOutBefore(Queue::iterator end)
+void Video::leaveOutBefore(const Queue::iterator& end)
 {
     for (auto frame = waiting_.begin(); frame != end; ++frame) {
         waitingBytes_ -= frame->size();
@@ -178,7 +183,7 @@ void Video::startTask()
 void Video::decodeNext()
 {
     {
-        const QMutexLocker lock(&decodeMutex_);
+        const std::lock_guard lock(decodeMutex_);
         if (const Frame frame = takeFirst(); frame.packet && codec_)
             decode(frame);
     }
@@ -259,7 +264,7 @@ void Video::decoded(int result, int width, int height, unsigned timestamp)
 
 void Video::stop()
 {
-    const QMutexLocker lock(&decodeMutex_);
+    const std::lock_guard lock(decodeMutex_);
     running_ = false;
     decoderTried_ = false;
     awaitsKey_ = false;

@@ -8,10 +8,10 @@
 #include "model/relaxed.h"
 
 #include <QElapsedTimer>
-#include <QMutex>
 #include <QObject>
 #include <QString>
 
+#include <chrono>
 #include <cstddef>
 #include <deque>
 #include <mutex>
@@ -63,15 +63,20 @@ public:
 
     int decodeCount = 0; // pictures since whoever counts has set it to 0
 
-    // Two seconds at 25 frames a second, and as many bytes as the link layer itself keeps.
-    static constexpr std::size_t mostWaitingFrames = 50;
+    // How much may wait. A frame that has waited for so long shows that the decoder does not keep up.
+    // What comes at once, as at the start, is at most what the link layer holds: 256 frames, 8 MiB.
+    static constexpr std::chrono::seconds longestWait{2};
+    static constexpr std::size_t mostWaitingFrames = 300;
     static constexpr std::size_t mostWaitingBytes = std::size_t{8} * 1024 * 1024;
 
 private:
+    using Clock = std::chrono::steady_clock;
+
     struct Frame
     {
         PacketPtr packet;
         MyFrameInfo_t info;
+        Clock::time_point received;
         bool isKey() const { return info.flags == 1; }
         std::size_t size() const { return static_cast<std::size_t>(packet->size); }
     };
@@ -89,7 +94,7 @@ private:
     bool makeRoom(const Frame& next);
     bool fits(const Frame& next) const;
     Queue::iterator newestKey();
-    void leaveOutBefore(Queue::iterator end);
+    void leaveOutBefore(const Queue::iterator& end);
     void tellLeftOut();
     void startTask();
     void decodeNext();
@@ -121,7 +126,7 @@ private:
     bool taskStarted_ = false; // one is on its way, and starts the next
 
     // Guarded by decodeMutex_, which a task holds while it decodes.
-    QMutex decodeMutex_;
+    std::mutex decodeMutex_;
     CodecPtr codec_;
     FramePtr picture_;
 

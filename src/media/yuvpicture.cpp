@@ -52,7 +52,7 @@ void convertRows(const AVFrame& frame, const AVPixFmtDescriptor& format, const P
     const int depthShift = format.comp[plane.component].depth - 8;
     const int sourceWidth = plane.width << std::max(acrossShift, 0);
     const int shrink = std::max(-acrossShift, 0); // 4:1:1 and 4:1:0 have fewer samples than we
-    const int sourceSamples = std::max(1, sourceWidth >> shrink);
+    const int sourceSamples = std::max(1, (sourceWidth + shrink) >> shrink);
     std::vector<std::uint16_t> samples(static_cast<std::size_t>(sourceSamples));
     std::array<const std::uint8_t*, 4> data{};
     std::copy_n(frame.data, data.size(), data.begin());

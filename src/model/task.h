@@ -14,9 +14,9 @@
 
 // The one pattern for work that may block. A task is a short function on the global thread pool;
 // it does one blocking thing and posts the result as an event to the object that started it, whose
-// event() turns it into state and signals on the main thread. Nothing waits for a task, and
-// nothing cancels one. The receiver must outlive its tasks: receivers are singletons, or children
-// of one that are not deleted before it.
+// event() turns it into state and signals on the main thread. Nothing cancels a
+// task. The receiver must outlive its tasks: receivers are singletons, or children of one that are
+// not deleted before it, or wait for their last task.
 //
 //     runTask(channel, [this, channel, avIndex, request] {
 //         const int result = avSendIOCtrl(avIndex, ...);

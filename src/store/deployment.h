@@ -13,8 +13,8 @@
 struct Deployment
 {
     enum class SearchScope { Lan, Loopback };
-    // LowDelay gives up the decoder's threads, which keep some pictures back, and looks for new
-    // frames more often: a shorter way to the screen for more work.
+    // LowDelay gives up the decoder's threads, which keep some pictures back, looks for new frames
+    // more often and repaints sooner: a shorter way to the screen for more work.
     enum class Decoder { Throughput, LowDelay };
 
     struct Endpoint

@@ -52,6 +52,9 @@ GlWidgetViewWindow::GlWidgetViewWindow(QWidget* parent)
     : QOpenGLWidget(parent)
     , scaleMode_(ViewControl::instance()->getScale())
 {
+    // Or Qt would clear colour, depth and stencil before each paint, which costs as much as a blit
+    // where OpenGL is software; paintGL clears what it must.
+    setUpdateBehavior(PartialUpdate);
     buildFrame();
     buildRecordIndicator();
     blinkTimer_.setInterval(200);
@@ -121,8 +124,10 @@ void GlWidgetViewWindow::connectSenders()
 
 void GlWidgetViewWindow::setChannel(Device* device, Channel* channel)
 {
-    if (channel != channel_)
+    if (channel != channel_) {
         yuvData_ = nullptr; // the other channel's, which may go
+        update();
+    }
     device_ = device;
     channel_ = channel;
     if (channel_ != nullptr) {
@@ -138,7 +143,7 @@ void GlWidgetViewWindow::setChannel(Device* device, Channel* channel)
 
 void GlWidgetViewWindow::forgetDevice(const Device* device)
 {
-    if (device_ == device)
+    if (device_ == device || (channel_ != nullptr && channel_->device() == device))
         setChannel(nullptr, nullptr);
 }
 
@@ -156,11 +161,16 @@ void GlWidgetViewWindow::showImg(
         return;
     if (!YuvLayout{width, height}.fitsBuffer())
         return;
+    const bool first = !backgroundLabel_->isHidden();
     leaveWaiting();
     pictureSize_ = QSize(width, height);
     yuvData_ = channel_->mode(isLive).yuvBuffer.load(std::memory_order_acquire);
     timestamp_ = timestamp;
-    RepaintPacer::of(window())->pictureCame(this);
+    // What covered the tile is gone with the next composition: the picture must be in it.
+    if (first)
+        update();
+    else
+        RepaintPacer::of(window())->pictureCame(this);
 }
 
 void GlWidgetViewWindow::finishPicture(Channel* channel)
@@ -175,10 +185,11 @@ void GlWidgetViewWindow::reloadImg()
         return;
     const ChannelMode& mode = channel_->mode(ViewControl::instance()->getIsLive());
     const std::uint8_t* picture = mode.yuvBuffer.load(std::memory_order_acquire);
-    if (picture == nullptr)
+    const QSize size = mode.pictureSize; // the tile may have shown another one before
+    if (picture == nullptr || size.isEmpty())
         return;
     yuvData_ = picture;
-    pictureSize_ = mode.pictureSize; // the tile may have shown another one before
+    pictureSize_ = size;
     update();
 }
 
@@ -255,11 +266,13 @@ void GlWidgetViewWindow::showSelectedChannel(Channel* channel)
 
 void GlWidgetViewWindow::mouseReleaseEvent(QMouseEvent* event)
 {
-    if (channel_ != nullptr) {
-        Dev::instance()->selectDevice(device_);
-        Dev::instance()->selectChannel(channel_);
+    Device* const device = device_; // who hears of the selection may bind another one
+    Channel* const channel = channel_;
+    if (channel != nullptr) {
+        Dev::instance()->selectDevice(device);
+        Dev::instance()->selectChannel(channel);
         if (event->button() == Qt::RightButton)
-            emit ViewControl::instance()->openedSubWindowMenuMsg(device_, channel_, event);
+            emit ViewControl::instance()->openedSubWindowMenuMsg(device, channel, event);
     }
     QOpenGLWidget::mouseReleaseEvent(event);
 }
@@ -285,6 +298,8 @@ void GlWidgetViewWindow::initializeGL()
     const auto* version = reinterpret_cast<const char*>(glGetString(GL_VERSION));
     SystemInfo::instance()->setOpenGlVersion(QString::fromLatin1(version));
     glEnable(GL_DEPTH_TEST);
+    glDepthFunc(GL_ALWAYS); // nothing lies before a picture, and nobody clears depth
+    glDepthMask(GL_FALSE);
     buildProgram();
     glVertexAttribPointer(0, 2, GL_FLOAT, GL_FALSE, 0, positions);
     glVertexAttribPointer(1, 2, GL_FLOAT, GL_FALSE, 0, textureCorners);
@@ -362,9 +377,9 @@ QSize GlWidgetViewWindow::pictureArea(const QSize& tile, int scaleMode)
     const int width = tile.width();
     const int height = tile.height();
     const auto fit = [&](int across, int down) {
-        const int fullWidth = down * (width / across);
-        return fullWidth <= height ? QSize(width, fullWidth)
-                                   : QSize(across * (height / down), height);
+        const int heightAtFullWidth = down * (width / across);
+        return heightAtFullWidth <= height ? QSize(width, heightAtFullWidth)
+                                           : QSize(across * (height / down), height);
     };
     if (scaleMode == 1)
         return fit(4, 3);
@@ -375,11 +390,12 @@ QSize GlWidgetViewWindow::pictureArea(const QSize& tile, int scaleMode)
 
 void GlWidgetViewWindow::paintGL()
 {
-    if (channel_ == nullptr || yuvData_ == nullptr)
+    if (channel_ == nullptr || yuvData_ == nullptr) {
+        glClear(GL_COLOR_BUFFER_BIT); // the last picture
         return;
+    }
     glClearColor(0, 0, 0, 0);
-    // Qt empties the depth buffer once per composition only, and a tile may be painted twice before.
-    glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT);
+    glClear(GL_COLOR_BUFFER_BIT);
     const QSize area = pictureArea(size(), scaleMode_);
     // One pixel less on each side keeps the picture off the frame.
     glViewport((width() - area.width()) / 2 + 1, (height() - area.height()) / 2 + 1,
@@ -391,9 +407,9 @@ void GlWidgetViewWindow::paintGL()
     glBindTexture(GL_TEXTURE_2D, textureIds_[0]);
     uploadPlane(yuvData_, layout.width, layout.height);
     glActiveTexture(GL_TEXTURE1);
-    // The target is settled as it is: OpenGL refuses it, so the plane goes into the unit's default
-    // texture, which its sampler reads. That one may be common to all tiles: no draw may rely on
-    // what an earlier paint has put there.
+    // No target of OpenGL: it refuses the binding, so the plane goes into the unit's default texture,
+    // which its sampler reads. That one may be common to all tiles, so each paint uploads anew: none
+    // may rely on what an earlier one has put there.
     glBindTexture(GL_TEXTURE1, textureIds_[1]);
     uploadPlane(yuvData_ + layout.offsetOfU(), layout.chromaWidth(), layout.chromaHeight());
     glActiveTexture(GL_TEXTURE2);

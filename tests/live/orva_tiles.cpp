@@ -9,6 +9,7 @@
 #include <QCommandLineParser>
 #include <QTimer>
 
+#include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <memory>
@@ -59,15 +60,18 @@ constexpr auto step = 7ms;
 // took, in milliseconds.
 void startAgain(TileWall& wall, int starts)
 {
-    QObject::connect(&wall, &TileWall::firstPicture, &wall, [&wall, starts, done = -1]() mutable {
-        if (++done > 0)
-            printLine(QStringLiteral("start-ms %1")
-                          .arg(double(wall.firstPictures().back().count()) / 1000, 0, 'f', 1));
-        if (done == starts)
-            QCoreApplication::quit();
-        else
-            QTimer::singleShot(shownFor + done * step, &wall, [&wall] { wall.stop(0); });
-    });
+    QObject::connect(
+        &wall, &TileWall::firstPicture, &wall, [&wall, starts, done = -1](int tile) mutable {
+            if (tile != 0)
+                return;
+            if (++done > 0)
+                printLine(QStringLiteral("start-ms %1")
+                              .arg(double(wall.firstPictures().back().count()) / 1000, 0, 'f', 1));
+            if (done == starts)
+                QCoreApplication::quit();
+            else
+                QTimer::singleShot(shownFor + done * step, &wall, [&wall] { wall.stop(0); });
+        });
     QObject::connect(&wall, &TileWall::stopped, &wall,
         [&wall] { QTimer::singleShot(stoppedFor, &wall, [&wall] { wall.start(0); }); });
 }

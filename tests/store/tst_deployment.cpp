@@ -19,6 +19,7 @@ private slots:
     void emptyObjectGivesTheDefaults();
     void everyKeyIsRead();
     void everyBrandIsRead();
+    void bothDecodersAreRead();
     void slashesAtTheEndOfTheAddressGo_data();
     void slashesAtTheEndOfTheAddressGo();
     void endpointsAreRead_data();
@@ -59,13 +60,15 @@ const char* const full = R"({
     "link": {
         "searchScope": "loopback",
         "addressBook": { "ABCDEFGHIJ0123456789": "127.0.0.1:20721" }
-    }
+    },
+    "decoder": "lowDelay"
 })";
 
 bool isDefault(const Deployment& deployment)
 {
     return deployment.cloudBaseUrl.isEmpty() && deployment.brand == 0
         && deployment.searchScope == Deployment::SearchScope::Lan
+        && deployment.decoder == Deployment::Decoder::Throughput
         && deployment.addressBook.isEmpty();
 }
 
@@ -117,6 +120,7 @@ void TestDeployment::everyKeyIsRead()
     QCOMPARE(deployment.addressBook.size(), 1);
     QCOMPARE(deployment.addressBook.value(uid).host, QString("127.0.0.1"));
     QCOMPARE(deployment.addressBook.value(uid).port, quint16(20721));
+    QVERIFY(deployment.decoder == Deployment::Decoder::LowDelay);
     QVERIFY(read(R"({"link":{"searchScope":"lan"}})").searchScope == Deployment::SearchScope::Lan);
 }
 
@@ -125,6 +129,14 @@ void TestDeployment::everyBrandIsRead()
     for (const int brand : {0, 149, 150, 151})
         QCOMPARE(read("{\"brand\":" + QByteArray::number(brand) + "}").brand, brand);
     QCOMPARE(read("{\"brand\":149.0}").brand, 149);
+}
+
+void TestDeployment::bothDecodersAreRead()
+{
+    const auto decoder = [](const char* json) { return read(json).decoder; };
+    QVERIFY(decoder(R"({"decoder":"lowDelay"})") == Deployment::Decoder::LowDelay);
+    QVERIFY(decoder(R"({"decoder":"throughput"})") == Deployment::Decoder::Throughput);
+    QVERIFY(decoder(R"({"brand":149})") == Deployment::Decoder::Throughput);
 }
 
 void TestDeployment::slashesAtTheEndOfTheAddressGo_data()
@@ -229,6 +241,12 @@ void addWrongTypes()
         QTest::newRow(qPrintable(QString("searchScope %1").arg(value)))
             << QByteArray(R"({"link":{"searchScope":)") + value + "}}"
             << "link.searchScope" << scope;
+    for (const char* value :
+        {"0", "null", "true", "[]", "{}", "\"\"", "\"lowdelay\"", "\"lowDelay \"", "\"fast\""})
+        QTest::newRow(qPrintable(QString("decoder %1").arg(value)))
+            << QByteArray("{\"decoder\":") + value + "}"
+            << "decoder"
+            << "the text \"throughput\" or \"lowDelay\"";
 }
 
 void addWrongAddresses()
@@ -253,6 +271,8 @@ void addUnknownKeys()
     row(R"({"brand":0,"x":{}})", "x");
     row(R"({"cloud":{"url":"https://a.example"}})", "cloud.url");
     row(R"({"link":{"scope":"lan"}})", "link.scope");
+    row(R"({"link":{"decoder":"lowDelay"}})", "link.decoder");
+    row(R"({"decoders":"lowDelay"})", "decoders");
     row(R"({"cloud.baseUrl":"https://a.example"})", "cloud.baseUrl");
 }
 

@@ -32,6 +32,7 @@ TileParts::TileParts(const GlWidgetViewWindow* tile)
         else if (label->text() == QLatin1String("REC"))
             recordText = label;
     }
+    Q_ASSERT(background != nullptr && recordText != nullptr);
     frame = background->parentWidget();
     recordIndicator = recordText->parentWidget();
     const auto marks = recordIndicator->findChildren<QLabel*>();

@@ -19,16 +19,18 @@ QByteArray uidOf(int number)
     return "SOAKDEVICENUMBER000" + QByteArray::number(number);
 }
 
+// A device has one codec for both qualities: frames of the quality before may still wait at a start, and
+// the first frame of a stream chooses its decoder.
 QByteArray entry(int number)
 {
-    const bool even = number % 2 == 0;
+    const QByteArray codec = number % 2 == 0 ? "h264" : "h265";
     const QByteArray source =
         "{url: \"test:\", rate: 10, bitrate: 128, key-interval: 20, sound: false, ";
-    return "  - uid: " + uidOf(number) + "\n    version: 1.5.0.IPC1\n    password: "
-        + BridgeProcess::password + "\n    channels:\n      - count: "
-        + QByteArray::number(SoakDevice::channels) + "\n        main: " + source
-        + "width: 320, height: 180, codec: " + (even ? "h264" : "h265") + "}\n        sub: "
-        + source + "width: 160, height: 90, codec: " + (even ? "h265" : "h264") + "}\n";
+    return "  - uid: " + uidOf(number)
+        + "\n    version: 1.5.0.IPC1\n    password: " + BridgeProcess::password
+        + "\n    channels:\n      - count: " + QByteArray::number(SoakDevice::channels)
+        + "\n        main: " + source + "width: 320, height: 180, codec: " + codec
+        + "}\n        sub: " + source + "width: 160, height: 90, codec: " + codec + "}\n";
 }
 
 } // namespace
