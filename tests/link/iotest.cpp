@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "iotest.h"
 
+#include "freshlayer.h"
 #include "model/channelhold.h"
 
 #include <QCoreApplication>
@@ -73,28 +74,6 @@ QString layerText(const LinkCall& call)
     else if (const auto* bytes = std::get_if<QByteArray>(&first))
         text += QLatin1Char(' ') + QString::fromLatin1(*bytes);
     return text;
-}
-
-// Counts what tasks, and queued calls, have handed to the main thread.
-class Deliveries final : public QObject
-{
-public:
-    Deliveries() { QCoreApplication::instance()->installEventFilter(this); }
-
-    bool eventFilter(QObject*, QEvent* event) override
-    {
-        if (event->type() >= QEvent::User || event->type() == QEvent::MetaCall)
-            ++count;
-        return false;
-    }
-
-    int count = 0;
-};
-
-ScriptedLink& freshLink()
-{
-    ScriptedLink::instance().reset();
-    return ScriptedLink::instance();
 }
 
 } // namespace

@@ -2,36 +2,11 @@
 #include "mediatest.h"
 
 #include "cloud/dev.h"
+#include "freshlayer.h"
 #include "model/channelhold.h"
 
 #include <QCoreApplication>
 #include <QThreadPool>
-
-namespace {
-
-// Counts what tasks, and queued calls, have handed to the main thread.
-class Deliveries final : public QObject
-{
-public:
-    Deliveries() { QCoreApplication::instance()->installEventFilter(this); }
-
-    bool eventFilter(QObject*, QEvent* event) override
-    {
-        if (event->type() >= QEvent::User || event->type() == QEvent::MetaCall)
-            ++count;
-        return false;
-    }
-
-    int count = 0;
-};
-
-ScriptedLink& freshLink()
-{
-    ScriptedLink::instance().reset();
-    return ScriptedLink::instance();
-}
-
-} // namespace
 
 bool settleTasks(Channel* channel)
 {
