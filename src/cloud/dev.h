@@ -1,15 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "model/device.h"
+
+#include <QList>
 #include <QObject>
 
-class Channel;
-class Device;
+#include <vector>
 
-// The registry of the account's devices, and what is selected of them. Singleton, main thread; lives
-// to the end of the process.
-//
-// It holds no list yet; it is where everyone who borrows devices learns that one leaves.
+// The registry of the account's devices, and what is selected of them. It alone owns devices; everyone
+// else borrows them, and learns from deleteDevMsg that one leaves. Singleton, main thread; lives to the
+// end of the process.
 class Dev final : public QObject
 {
     Q_OBJECT
@@ -20,6 +21,19 @@ public:
     Dev();
     ~Dev() override;
     Q_DISABLE_COPY_MOVE(Dev)
+
+    // In the order in which they came.
+    QList<Device*> devices() const;
+    // Of all devices: in the order of the list, inside a device by number.
+    QList<Channel*> channels() const;
+
+    // A device whose UID is known changes the one that is there instead.
+    void addDevice(DeviceOwner device);
+    // Emits deleteDevMsg, then retires it; null, or one that is not in the list, is ignored.
+    void removeDevice(Device* device);
+
+    // Which channels are open for live view, into the settings: the offer of the next start.
+    void saveOpenChannels() const;
 
     // Null where nothing is selected.
     Device* selectedDevice() const { return selectedDevice_; }
@@ -40,6 +54,7 @@ signals:
 private:
     void forget(const Device* device);
 
+    std::vector<DeviceOwner> devices_;
     Device* selectedDevice_ = nullptr;
     Channel* selectedChannel_ = nullptr;
 };

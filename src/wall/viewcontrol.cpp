@@ -1,16 +1,24 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// The wall itself: modes, layouts, pages, and which channel stands on which tile.
 #include "wall/viewcontrol.h"
 
+#include "cloud/dev.h"
 #include "link/ioconnect.h"
-#include "model/channel.h"
+#include "model/device.h"
 #include "store/location.h"
+#include "wall/glwidgetviewwindow.h"
 
 #include <algorithm>
-#include <limits>
 
 namespace {
 
 ViewControl* theViewControl = nullptr;
+
+// A settings file that was edited by hand may hold anything.
+WINDOW_MOD windowModFrom(int stored)
+{
+    return isWindowMod(stored) ? static_cast<WINDOW_MOD>(stored) : WINDOW_MOD_4;
+}
 
 } // namespace
 
@@ -26,13 +34,49 @@ ViewControl::ViewControl()
     if (theViewControl != nullptr)
         return;
     theViewControl = this;
-    scale_ = Location::instance()->getScale();
+    const Location* settings = Location::instance();
+    live_.windowMod = windowModFrom(settings->getWindowNum());
+    replay_.windowMod = windowModFrom(settings->getReplayWindowNum());
+    scale_ = settings->getScale();
+    connectSenders();
 }
 
 ViewControl::~ViewControl()
 {
+    while (!windows_.empty())
+        delete windows_.back(); // which takes itself out, see addTile()
     if (theViewControl == this)
         theViewControl = nullptr;
+}
+
+void ViewControl::connectSenders()
+{
+    using Wall = ViewControl;
+    const IoConnect* io = IoConnect::instance();
+    connect(io, &IoConnect::connectDevFailMsg, this, &Wall::connectDevFail);
+    connect(io, &IoConnect::connectChannelSuccessMsg, this, &Wall::connectChannelSuccess);
+    connect(io, &IoConnect::finishVideoTimeMsg, this, &Wall::autoPlayReplay);
+    connect(io, &IoConnect::connectChannelFailMsg, this, &Wall::connectChannelFail);
+    connect(io, &IoConnect::receiveVideoTimeEmptyMsg, this, &Wall::connectChannelFail);
+    connect(io, &IoConnect::startReplaySuccessMsg, this, &Wall::startReplaySuccess);
+    connect(io, &IoConnect::startReplayFailMsg, this, &Wall::startReplayFail);
+    connect(io, &IoConnect::videoRequestStopSuccessMsg, this, &Wall::cleanScreen);
+    connect(io, &IoConnect::stopReplaySuccessMsg, this, &Wall::cleanScreen);
+    connect(io, &IoConnect::videoRequestFailMsg, this, &Wall::startLiveFail);
+    connect(Dev::instance(), &Dev::selectChannelMsg, this, &Wall::changeShowChannel);
+    connect(Dev::instance(), &Dev::deleteDevMsg, this, &Wall::forgetDevice);
+}
+
+int ViewControl::getPageCount() const
+{
+    const QList<Channel*> channels = Dev::instance()->channels();
+    return pageCountFor(openCount(planChannels(channels)), windowCapacity(windowMod()));
+}
+
+void ViewControl::setFull(bool isFull)
+{
+    isFull_ = isFull;
+    emit fullGLMsg(isFull);
 }
 
 void ViewControl::setScale(int scale)
@@ -43,34 +87,328 @@ void ViewControl::setScale(int scale)
     emit scaleChangeMsg();
 }
 
-void ViewControl::setRecord(Channel* channel, bool isRecord)
+void ViewControl::openDelAlert(Device* device)
 {
-    constexpr int msPerMinute = 60000;
-    constexpr int mostMinutes = std::numeric_limits<int>::max() / msPerMinute;
-    channel->setRecord(isRecord, isLive_);
-    if (isRecord) {
-        const int minutes = std::clamp(Location::instance()->getTimeLength(), 0, mostMinutes);
-        channel->setRecordTimer(minutes * msPerMinute, isLive_);
-        connect(channel->mode(isLive_).recordTimer.get(), &ChannelSaveTimeout::timeout, this,
-            &ViewControl::stopSaveRecord);
-    } else {
-        channel->removeRecordTimer(isLive_);
+    if (device != nullptr)
+        emit openDelAlertMsg(device);
+}
+
+void ViewControl::createWindows(QWidget* parent)
+{
+    screen_ = parent;
+    const auto wanted = static_cast<std::size_t>(windowTiles(windowMod()));
+    // Where the number stays, so does the mirror tile: from value 2 to 3 it is kept, by design.
+    if (windows_.size() != wanted) {
+        while (windows_.size() < wanted)
+            addTile();
+        while (windows_.size() > wanted)
+            removeLastTile();
+        firstTile()->setMirror(hasMirrorTile(windowMod()));
+        refill();
+        emit windowNumberChangeMsg();
     }
-    emit recordMsg(channel, isRecord);
+    layoutWindows(parent->width(), parent->height());
 }
 
-bool ViewControl::getNextBlock(QDateTime*) const
+void ViewControl::recreateWindows()
 {
-    return false; // the timeline holds no blocks yet
+    if (screen_ != nullptr)
+        createWindows(screen_);
 }
 
-void ViewControl::closeDevice(Device* device)
+void ViewControl::layoutWindows(int width, int height)
 {
-    IoConnect::instance()->disConnectDevice(device);
+    if (windows_.empty())
+        return;
+    const std::vector<QRect> rects = windowRects(windowMod(), QSize(width, height));
+    for (std::size_t i = 0; i < std::min(rects.size(), windows_.size()); ++i) {
+        const QRect& rect = rects[i];
+        windows_[i]->resize(rect.width(), rect.height(), rect.x(), rect.y());
+    }
+    emit resizeMsg();
 }
 
-void ViewControl::stopSaveRecord(Channel* channel)
+void ViewControl::addTile()
 {
-    channel->setRecord(false, isLive_);
-    emit recordMsg(channel, false);
+    auto* tile = new GlWidgetViewWindow(screen_);
+    connect(tile, &GlWidgetViewWindow::doubleClicked, this, &ViewControl::doubleClickScreen);
+    connect(tile, &QObject::destroyed, this, [this, tile] { forgetTile(tile); });
+    tile->show();
+    windows_.push_back(tile);
+}
+
+// It may be the tile whose double click is being dealt with, so it goes later.
+void ViewControl::removeLastTile()
+{
+    GlWidgetViewWindow* tile = windows_.back();
+    if (Channel* channel = tile->getChannel(); channel != nullptr && channel->tile == tile)
+        channel->tile = nullptr;
+    tile->setChannel(nullptr, nullptr);
+    windows_.pop_back();
+    tile->hide();
+    tile->deleteLater();
+}
+
+// Its parent has deleted it.
+void ViewControl::forgetTile(const GlWidgetViewWindow* tile)
+{
+    const auto at = std::find(windows_.begin(), windows_.end(), tile);
+    if (at == windows_.end())
+        return;
+    windows_.erase(at);
+    const QList<Channel*> channels = Dev::instance()->channels();
+    for (Channel* channel : channels) {
+        if (channel->tile == tile)
+            channel->tile = nullptr;
+    }
+}
+
+GlWidgetViewWindow* ViewControl::firstTile() const
+{
+    return windows_.empty() ? nullptr : windows_.front();
+}
+
+void ViewControl::bind(GlWidgetViewWindow* tile, Channel* channel)
+{
+    tile->setChannel(channel->device(), channel);
+    if (!tile->isMirror())
+        channel->tile = tile;
+}
+
+void ViewControl::unbind(Channel* channel)
+{
+    if (channel == nullptr)
+        return;
+    for (GlWidgetViewWindow* tile : windows_) {
+        if (tile->getChannel() == channel)
+            tile->setChannel(nullptr, nullptr);
+    }
+    channel->tile = nullptr;
+}
+
+void ViewControl::unbindAll(const Device* device)
+{
+    for (int i = 0; i < device->channelListSize(); ++i)
+        unbind(device->channel(i));
+}
+
+void ViewControl::unbindTiles()
+{
+    for (const GlWidgetViewWindow* tile : windows_)
+        unbind(tile->getChannel());
+}
+
+// A tile that keeps its channel is left alone: what it shows stays on the screen.
+void ViewControl::refill()
+{
+    const QList<Channel*> channels = Dev::instance()->channels();
+    const WallTiles tiles{
+        static_cast<int>(windows_.size()), !windows_.empty() && firstTile()->isMirror()};
+    const std::vector<int> plan =
+        fillTiles(planChannels(channels), channels.indexOf(Dev::instance()->selectedChannel()),
+            tiles, getPage(), windowCapacity(windowMod()));
+
+    for (const GlWidgetViewWindow* tile : windows_) {
+        if (Channel* channel = tile->getChannel(); channel != nullptr)
+            channel->tile = nullptr;
+    }
+    for (std::size_t i = 0; i < plan.size(); ++i) {
+        GlWidgetViewWindow* tile = windows_[i];
+        Channel* channel = plan[i] != noChannel ? channels.at(plan[i]) : nullptr;
+        if (tile->getChannel() != channel)
+            tile->setChannel(channel != nullptr ? channel->device() : nullptr, channel);
+        if (channel != nullptr && !tile->isMirror())
+            channel->tile = tile;
+    }
+}
+
+std::vector<WallChannel> ViewControl::planChannels(const QList<Channel*>& channels) const
+{
+    std::vector<WallChannel> plan;
+    plan.reserve(static_cast<std::size_t>(channels.size()));
+    const Device* device = nullptr;
+    int number = 0;
+    for (const Channel* channel : channels) {
+        if (channel->device() != device)
+            ++number;
+        device = channel->device();
+        plan.push_back({number, channel->mode(isLive_).open});
+    }
+    return plan;
+}
+
+int ViewControl::ordinalOfChannel(Channel* channel) const
+{
+    const QList<Channel*> channels = Dev::instance()->channels();
+    const int index = channels.indexOf(channel);
+    return index >= 0 ? ordinalOf(planChannels(channels), index) : 0;
+}
+
+void ViewControl::showChannel(Channel* channel)
+{
+    if (channel->tile != nullptr)
+        return;
+    for (GlWidgetViewWindow* tile : windows_) {
+        if (tile->getChannel() != nullptr)
+            continue;
+        bind(tile, channel);
+        if (!tile->isMirror())
+            return; // an empty mirror tile takes it beside an ordinary one
+    }
+}
+
+void ViewControl::showOnFirstTile(Channel* channel)
+{
+    GlWidgetViewWindow* tile = firstTile();
+    if (tile != nullptr && (tile->getChannel() != channel || channel->tile != tile)) {
+        unbind(tile->getChannel());
+        tile->setChannel(channel->device(), channel);
+        channel->tile = tile;
+    }
+    setPage(ordinalOfChannel(channel));
+}
+
+void ViewControl::changeShowChannel(Channel* channel)
+{
+    if (channel == nullptr || !channel->mode(isLive_).playing)
+        return;
+    if (windowMod() == WINDOW_MOD_1)
+        showOnFirstTile(channel);
+    GlWidgetViewWindow* tile = firstTile();
+    if (tile != nullptr && tile->isMirror() && tile->getChannel() != channel)
+        tile->setChannel(channel->device(), channel);
+    emitPage();
+}
+
+void ViewControl::select(Channel* channel)
+{
+    Dev::instance()->selectDevice(channel->device());
+    Dev::instance()->selectChannel(channel);
+}
+
+void ViewControl::changePage(PageChangeType type)
+{
+    const int page = type == PageUp ? getPage() + 1 : getPage() - 1;
+    if (page < 0 || (type == PageUp && page >= getPageCount()))
+        return;
+    setPage(page);
+    if (windowMod() == WINDOW_MOD_1)
+        showPageOnOneTile();
+    else
+        refill();
+    emitPage();
+}
+
+// The channel of this page goes onto the one tile, as the selected one.
+void ViewControl::showPageOnOneTile()
+{
+    const QList<Channel*> channels = Dev::instance()->channels();
+    const int index = channelAt(planChannels(channels), getPage());
+    if (index == noChannel)
+        return;
+    select(channels.at(index));
+    changeShowChannel(channels.at(index));
+}
+
+void ViewControl::setWindowMod(WINDOW_MOD mod, bool isLive)
+{
+    if (!isWindowMod(mod))
+        return;
+    if (isLive)
+        Location::instance()->setWindowNum(mod);
+    else
+        Location::instance()->setReplayWindowNum(mod);
+    Half& changed = half(isLive);
+    const int oldCapacity = windowCapacity(changed.windowMod);
+    const int page = pageAfterLayoutChange(changed.page, oldCapacity, windowCapacity(mod));
+    changed.windowMod = mod;
+    if (isLive != isLive_) {
+        changed.page = page; // the tiles show the other mode
+        return;
+    }
+    recreateWindows();
+    if (mod == WINDOW_MOD_1) {
+        showOneTile();
+        return;
+    }
+    setPage(page);
+    refill();
+    emitPage();
+}
+
+// The selected channel stays in sight; where there is none, the first tile's is selected.
+void ViewControl::showOneTile()
+{
+    if (Channel* selected = Dev::instance()->selectedChannel(); selected != nullptr) {
+        showOnFirstTile(selected);
+        emitPage();
+    } else if (Channel* shown = firstTile() != nullptr ? firstTile()->getChannel() : nullptr) {
+        select(shown);
+        setPage(ordinalOfChannel(shown));
+    }
+}
+
+void ViewControl::doubleClickScreen(Channel* channel)
+{
+    Half& current = half(isLive_);
+    if (current.windowMod != WINDOW_MOD_1) {
+        current.lastWindowMod = current.windowMod;
+        setWindowMod(WINDOW_MOD_1, isLive_);
+        select(channel);
+        return;
+    }
+    unbind(channel);
+    setWindowMod(current.lastWindowMod, isLive_);
+    Dev::instance()->selectDevice(channel->device());
+    Dev::instance()->selectChannel(nullptr);
+}
+
+void ViewControl::changeMod(bool isLive)
+{
+    if (isLive == isLive_)
+        return;
+    const QList<Channel*> channels = Dev::instance()->channels();
+    for (Channel* channel : channels) {
+        if (channel->device()->sid >= 0)
+            changeModOf(channel, isLive);
+    }
+    isLive_ = isLive;
+    setWindowMod(windowMod(), isLive);
+    for (const GlWidgetViewWindow* tile : windows_) {
+        if (tile->isChannelBound())
+            tile->getChannel()->mode(isLive).waiting = true;
+    }
+    unbindTiles(); // what they show is the other mode's
+    refill();
+    emit changeModMsg(isLive);
+}
+
+// Leaves the mode that ends and enters the other one. What the user has paused stays so.
+void ViewControl::changeModOf(Channel* channel, bool isLive)
+{
+    IoConnect* io = IoConnect::instance();
+    if (channel->mode(isLive_).open) {
+        if (isLive_)
+            io->stopLife(channel, false);
+        else if (!channel->replayPaused)
+            io->pauseReplay(channel, true);
+    }
+    if (channel->mode(isLive).open) {
+        if (isLive)
+            io->startLive(channel);
+        else if (!channel->replayPaused)
+            io->stopPauseReplay(channel, true);
+    }
+}
+
+void ViewControl::emitPage()
+{
+    emit createPageMsg(getPage(), getPageCount());
+}
+
+void ViewControl::forgetDevice(const Device* device)
+{
+    unbindAll(device);
+    if (playAllDevice_ == device)
+        playAllDevice_ = nullptr;
 }

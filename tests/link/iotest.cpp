@@ -186,7 +186,9 @@ IoTest::IoTest(int channelCount)
     , device(new Device)
 {
     qRegisterMetaType<Channel*>("Channel*");
-    QObject::disconnect(io.get(), nullptr, &decode, nullptr); // no stream asks for frames here
+    // No stream asks for frames here, and no wall opens and closes channels.
+    QObject::disconnect(io.get(), nullptr, &decode, nullptr);
+    QObject::disconnect(io.get(), nullptr, &viewControl, nullptr);
     if (!settle())
         qFatal("the layer does not come up");
     link.openChannel(link.openSession());

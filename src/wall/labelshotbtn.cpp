@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "wall/labelshotbtn.h"
+
+#include "app/pictures.h"
+#include "cloud/dev.h"
+#include "wall/viewcontrol.h"
+
+LabelShotBtn::LabelShotBtn(QWidget* parent)
+    : PictureKey(parent)
+{
+    setPicture(keyPicture("screenShot"));
+    showHint();
+}
+
+QString LabelShotBtn::hint() const
+{
+    return tr("Screenshot");
+}
+
+void LabelShotBtn::pressed()
+{
+    setPicture(keyPicture("screenShot-hover"));
+}
+
+void LabelShotBtn::released()
+{
+    setPicture(keyPicture("screenShot"));
+    if (Channel* channel = Dev::instance()->selectedChannel(); channel != nullptr)
+        channel->mode(ViewControl::instance()->getIsLive()).screenshot = true;
+}

@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "wall/picturekey.h"
+
+#include "app/activation.h"
+
+PictureKey::PictureKey(QWidget* parent)
+    : QLabel(parent)
+{
+    setProperty("role", QStringLiteral("key"));
+    setAlignment(Qt::AlignCenter);
+    setFocusPolicy(Qt::TabFocus);
+    setCursor(Qt::PointingHandCursor);
+}
+
+void PictureKey::setPicture(const QString& name)
+{
+    setPixmap(QPixmap(name + QStringLiteral(".png")));
+}
+
+void PictureKey::showHint()
+{
+    setToolTip(hint());
+    setAccessibleName(toolTip());
+}
+
+void PictureKey::enterEvent(QEvent*)
+{
+    hotChanged();
+}
+
+void PictureKey::leaveEvent(QEvent*)
+{
+    hotChanged();
+}
+
+void PictureKey::focusInEvent(QFocusEvent* event)
+{
+    QLabel::focusInEvent(event);
+    hotChanged();
+}
+
+void PictureKey::focusOutEvent(QFocusEvent* event)
+{
+    QLabel::focusOutEvent(event);
+    hotChanged();
+}
+
+void PictureKey::mousePressEvent(QMouseEvent* event)
+{
+    if (event->button() != Qt::LeftButton)
+        return;
+    isDown_ = true;
+    pressed();
+}
+
+void PictureKey::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (event->button() != Qt::LeftButton || !isDown_)
+        return;
+    isDown_ = false;
+    released();
+    if (rect().contains(event->pos()))
+        clicked();
+}
+
+void PictureKey::keyPressEvent(QKeyEvent* event)
+{
+    if (!isActivation(event)) {
+        QLabel::keyPressEvent(event);
+        return;
+    }
+    pressed();
+    released();
+    clicked();
+}
+
+void PictureKey::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        showHint();
+    QLabel::changeEvent(event);
+}
