@@ -38,6 +38,7 @@ ViewControl::ViewControl()
     live_.windowMod = windowModFrom(settings->getWindowNum());
     replay_.windowMod = windowModFrom(settings->getReplayWindowNum());
     scale_ = settings->getScale();
+    board_.setTiles(windowTiles(windowMod()), hasMirrorTile(windowMod()));
     connectSenders();
 }
 
@@ -96,17 +97,7 @@ void ViewControl::openDelAlert(Device* device)
 void ViewControl::createWindows(QWidget* parent)
 {
     screen_ = parent;
-    const auto wanted = static_cast<std::size_t>(windowTiles(windowMod()));
-    // Where the number stays, so does the mirror tile: from value 2 to 3 it is kept, by design.
-    if (windows_.size() != wanted) {
-        while (windows_.size() < wanted)
-            addTile();
-        while (windows_.size() > wanted)
-            removeLastTile();
-        firstTile()->setMirror(hasMirrorTile(windowMod()));
-        refill();
-        emit windowNumberChangeMsg();
-    }
+    fitTiles();
     layoutWindows(parent->width(), parent->height());
 }
 
@@ -114,6 +105,24 @@ void ViewControl::recreateWindows()
 {
     if (screen_ != nullptr)
         createWindows(screen_);
+    else
+        fitTiles();
+}
+
+void ViewControl::fitTiles()
+{
+    const int wanted = windowTiles(windowMod());
+    const bool haveTiles = screen_ == nullptr || static_cast<int>(windows_.size()) == wanted;
+    // Where the number stays, so does the mirror tile: from value 2 to 3 it is kept, by design.
+    if (board_.count() == wanted && haveTiles)
+        return;
+    while (screen_ != nullptr && static_cast<int>(windows_.size()) < wanted)
+        addTile();
+    while (static_cast<int>(windows_.size()) > wanted)
+        removeLastTile();
+    board_.setTiles(wanted, hasMirrorTile(windowMod()));
+    refill();
+    emit windowNumberChangeMsg();
 }
 
 void ViewControl::layoutWindows(int width, int height)
@@ -141,10 +150,10 @@ void ViewControl::addTile()
 void ViewControl::removeLastTile()
 {
     GlWidgetViewWindow* tile = windows_.back();
+    windows_.pop_back();
     if (Channel* channel = tile->getChannel(); channel != nullptr && channel->tile == tile)
         channel->tile = nullptr;
     tile->setChannel(nullptr, nullptr);
-    windows_.pop_back();
     tile->hide();
     tile->deleteLater();
 }
@@ -156,70 +165,58 @@ void ViewControl::forgetTile(const GlWidgetViewWindow* tile)
     if (at == windows_.end())
         return;
     windows_.erase(at);
-    const QList<Channel*> channels = Dev::instance()->channels();
-    for (Channel* channel : channels) {
-        if (channel->tile == tile)
-            channel->tile = nullptr;
+    for (int i = 0; i < board_.count(); ++i) {
+        if (board_.at(i) != nullptr && board_.at(i)->tile == tile)
+            board_.at(i)->tile = nullptr;
     }
 }
 
-GlWidgetViewWindow* ViewControl::firstTile() const
+// Brings the widgets to what the board says. A tile that keeps its channel is left alone: what it shows
+// stays on the screen.
+void ViewControl::showBoard()
 {
-    return windows_.empty() ? nullptr : windows_.front();
-}
-
-void ViewControl::bind(GlWidgetViewWindow* tile, Channel* channel)
-{
-    tile->setChannel(channel->device(), channel);
-    if (!tile->isMirror())
-        channel->tile = tile;
+    for (std::size_t i = 0; i < windows_.size(); ++i) {
+        Channel* held = windows_[i]->getChannel();
+        if (held != nullptr && held->tile == windows_[i])
+            held->tile = nullptr;
+    }
+    for (std::size_t i = 0; i < windows_.size(); ++i) {
+        GlWidgetViewWindow* tile = windows_[i];
+        Channel* channel = board_.at(static_cast<int>(i));
+        tile->setMirror(i == 0 && board_.hasMirror());
+        if (tile->getChannel() != channel)
+            tile->setChannel(channel != nullptr ? channel->device() : nullptr, channel);
+        if (channel != nullptr && !tile->isMirror())
+            channel->tile = tile;
+    }
 }
 
 void ViewControl::unbind(Channel* channel)
 {
     if (channel == nullptr)
         return;
-    for (GlWidgetViewWindow* tile : windows_) {
-        if (tile->getChannel() == channel)
-            tile->setChannel(nullptr, nullptr);
-    }
-    channel->tile = nullptr;
+    board_.remove(channel);
+    showBoard();
 }
 
 void ViewControl::unbindAll(const Device* device)
 {
     for (int i = 0; i < device->channelListSize(); ++i)
-        unbind(device->channel(i));
+        board_.remove(device->channel(i));
+    showBoard();
 }
 
-void ViewControl::unbindTiles()
-{
-    for (const GlWidgetViewWindow* tile : windows_)
-        unbind(tile->getChannel());
-}
-
-// A tile that keeps its channel is left alone: what it shows stays on the screen.
 void ViewControl::refill()
 {
     const QList<Channel*> channels = Dev::instance()->channels();
-    const WallTiles tiles{
-        static_cast<int>(windows_.size()), !windows_.empty() && firstTile()->isMirror()};
     const std::vector<int> plan =
         fillTiles(planChannels(channels), channels.indexOf(Dev::instance()->selectedChannel()),
-            tiles, getPage(), windowCapacity(windowMod()));
-
-    for (const GlWidgetViewWindow* tile : windows_) {
-        if (Channel* channel = tile->getChannel(); channel != nullptr)
-            channel->tile = nullptr;
-    }
-    for (std::size_t i = 0; i < plan.size(); ++i) {
-        GlWidgetViewWindow* tile = windows_[i];
-        Channel* channel = plan[i] != noChannel ? channels.at(plan[i]) : nullptr;
-        if (tile->getChannel() != channel)
-            tile->setChannel(channel != nullptr ? channel->device() : nullptr, channel);
-        if (channel != nullptr && !tile->isMirror())
-            channel->tile = tile;
-    }
+            {board_.count(), board_.hasMirror()}, getPage(), windowCapacity(windowMod()));
+    std::vector<Channel*> filled;
+    for (const int channel : plan)
+        filled.push_back(channel != noChannel ? channels.at(channel) : nullptr);
+    board_.fill(std::move(filled));
+    showBoard();
 }
 
 std::vector<WallChannel> ViewControl::planChannels(const QList<Channel*>& channels) const
@@ -246,25 +243,14 @@ int ViewControl::ordinalOfChannel(Channel* channel) const
 
 void ViewControl::showChannel(Channel* channel)
 {
-    if (channel->tile != nullptr)
-        return;
-    for (GlWidgetViewWindow* tile : windows_) {
-        if (tile->getChannel() != nullptr)
-            continue;
-        bind(tile, channel);
-        if (!tile->isMirror())
-            return; // an empty mirror tile takes it beside an ordinary one
-    }
+    board_.show(channel);
+    showBoard();
 }
 
 void ViewControl::showOnFirstTile(Channel* channel)
 {
-    GlWidgetViewWindow* tile = firstTile();
-    if (tile != nullptr && (tile->getChannel() != channel || channel->tile != tile)) {
-        unbind(tile->getChannel());
-        tile->setChannel(channel->device(), channel);
-        channel->tile = tile;
-    }
+    board_.showFirst(channel);
+    showBoard();
     setPage(ordinalOfChannel(channel));
 }
 
@@ -272,11 +258,12 @@ void ViewControl::changeShowChannel(Channel* channel)
 {
     if (channel == nullptr || !channel->mode(isLive_).playing)
         return;
-    if (windowMod() == WINDOW_MOD_1)
+    if (windowMod() == WINDOW_MOD_1) {
         showOnFirstTile(channel);
-    GlWidgetViewWindow* tile = firstTile();
-    if (tile != nullptr && tile->isMirror() && tile->getChannel() != channel)
-        tile->setChannel(channel->device(), channel);
+    } else if (board_.hasMirror()) {
+        board_.showFirst(channel);
+        showBoard();
+    }
     emitPage();
 }
 
@@ -342,7 +329,7 @@ void ViewControl::showOneTile()
     if (Channel* selected = Dev::instance()->selectedChannel(); selected != nullptr) {
         showOnFirstTile(selected);
         emitPage();
-    } else if (Channel* shown = firstTile() != nullptr ? firstTile()->getChannel() : nullptr) {
+    } else if (Channel* shown = board_.at(0); shown != nullptr) {
         select(shown);
         setPage(ordinalOfChannel(shown));
     }
@@ -374,11 +361,12 @@ void ViewControl::changeMod(bool isLive)
     }
     isLive_ = isLive;
     setWindowMod(windowMod(), isLive);
-    for (const GlWidgetViewWindow* tile : windows_) {
-        if (tile->isChannelBound())
-            tile->getChannel()->mode(isLive).waiting = true;
+    for (int tile = 0; tile < board_.count(); ++tile) {
+        if (board_.at(tile) != nullptr)
+            board_.at(tile)->mode(isLive).waiting = true;
     }
-    unbindTiles(); // what they show is the other mode's
+    board_.clear();
+    showBoard(); // what the tiles show is the other mode's
     refill();
     emit changeModMsg(isLive);
 }

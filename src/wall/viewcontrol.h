@@ -3,6 +3,7 @@
 
 #include "model/playspeed.h"
 #include "wall/recordedblocks.h"
+#include "wall/wallboard.h"
 #include "wall/walllayout.h"
 #include "wall/wallplan.h"
 
@@ -55,6 +56,10 @@ public:
     bool getFull() const { return isFull_; }
     // How tiles fit pictures: 0 fills the tile, 1 keeps 4:3, 2 keeps 16:9.
     int getScale() const { return scale_; }
+
+    // What stands on the tiles; null on an empty one. Before there are widgets too.
+    int getTileCount() const { return board_.count(); }
+    Channel* getTileChannel(int tile) const { return board_.at(tile); }
 
     // Tiles. `createWindows` makes as many as the layout has, inside `parent`, and lays them out.
     void createWindows(QWidget* parent);
@@ -162,18 +167,17 @@ private:
     WINDOW_MOD windowMod() const { return half(isLive_).windowMod; }
 
     void connectSenders();
+    void fitTiles();
     void addTile();
     void removeLastTile();
     void forgetTile(const GlWidgetViewWindow* tile);
-    GlWidgetViewWindow* firstTile() const;
-    void bind(GlWidgetViewWindow* tile, Channel* channel);
-    void unbindAll(const Device* device);
-    void unbindTiles();
+    void showBoard();
     void refill();
+    void unbindAll(const Device* device);
     void showOnFirstTile(Channel* channel);
     void showOneTile();
     void showPageOnOneTile();
-    void select(Channel* channel);
+    static void select(Channel* channel);
     std::vector<WallChannel> planChannels(const QList<Channel*>& channels) const;
     int ordinalOfChannel(Channel* channel) const;
     void changeModOf(Channel* channel, bool isLive);
@@ -182,8 +186,9 @@ private:
 
     Half live_;
     Half replay_;
+    WallBoard board_; // of the current mode
     QPointer<QWidget> screen_; // the tiles' parent
-    std::vector<GlWidgetViewWindow*> windows_; // tile 0 first; owned through screen_
+    std::vector<GlWidgetViewWindow*> windows_; // tile 0 first; none before createWindows
     bool isLive_ = true;
     bool isFull_ = false;
     int scale_ = 0;
