@@ -29,6 +29,13 @@
     </message>
 </context>
 <context>
+    <name>ChannelWindow</name>
+    <message>
+        <source>Channel</source>
+        <translation>Kanal</translation>
+    </message>
+</context>
+<context>
     <name>DebugRecord</name>
     <message>
         <source>Debug Record</source>
@@ -836,6 +843,49 @@
     </message>
 </context>
 <context>
+    <name>LabelFullScreen</name>
+    <message>
+        <source>Exit Full Screen</source>
+        <translation>Vollbild beenden</translation>
+    </message>
+    <message>
+        <source>Full Screen</source>
+        <translation>Vollbild</translation>
+    </message>
+</context>
+<context>
+    <name>LabelRecordBtn</name>
+    <message>
+        <source>Stop Recording</source>
+        <translation>Aufnahme beenden</translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation>Aufnehmen</translation>
+    </message>
+</context>
+<context>
+    <name>LabelShotBtn</name>
+    <message>
+        <source>Screenshot</source>
+        <translation>Schnappschuss</translation>
+    </message>
+</context>
+<context>
+    <name>LabelWinBtn</name>
+    <message>
+        <source>Windows: %1</source>
+        <translation>Fenster: %1</translation>
+    </message>
+</context>
+<context>
+    <name>LabelWindowNumBtn</name>
+    <message>
+        <source>Layout</source>
+        <translation>Aufteilung</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Debug Record</source>
@@ -876,6 +926,17 @@
     <message>
         <source>Restore</source>
         <translation>Wiederherstellen</translation>
+    </message>
+</context>
+<context>
+    <name>PageBtn</name>
+    <message>
+        <source>Previous Page</source>
+        <translation>Vorherige Seite</translation>
+    </message>
+    <message>
+        <source>Next Page</source>
+        <translation>Nächste Seite</translation>
     </message>
 </context>
 <context>

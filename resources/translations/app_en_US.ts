@@ -29,6 +29,13 @@
     </message>
 </context>
 <context>
+    <name>ChannelWindow</name>
+    <message>
+        <source>Channel</source>
+        <translation>Channel</translation>
+    </message>
+</context>
+<context>
     <name>DebugRecord</name>
     <message>
         <source>Debug Record</source>
@@ -836,6 +843,49 @@
     </message>
 </context>
 <context>
+    <name>LabelFullScreen</name>
+    <message>
+        <source>Exit Full Screen</source>
+        <translation>Exit Full Screen</translation>
+    </message>
+    <message>
+        <source>Full Screen</source>
+        <translation>Full Screen</translation>
+    </message>
+</context>
+<context>
+    <name>LabelRecordBtn</name>
+    <message>
+        <source>Stop Recording</source>
+        <translation>Stop Recording</translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation>Record</translation>
+    </message>
+</context>
+<context>
+    <name>LabelShotBtn</name>
+    <message>
+        <source>Screenshot</source>
+        <translation>Screenshot</translation>
+    </message>
+</context>
+<context>
+    <name>LabelWinBtn</name>
+    <message>
+        <source>Windows: %1</source>
+        <translation>Windows: %1</translation>
+    </message>
+</context>
+<context>
+    <name>LabelWindowNumBtn</name>
+    <message>
+        <source>Layout</source>
+        <translation>Layout</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Debug Record</source>
@@ -876,6 +926,17 @@
     <message>
         <source>Restore</source>
         <translation>Restore</translation>
+    </message>
+</context>
+<context>
+    <name>PageBtn</name>
+    <message>
+        <source>Previous Page</source>
+        <translation>Previous Page</translation>
+    </message>
+    <message>
+        <source>Next Page</source>
+        <translation>Next Page</translation>
     </message>
 </context>
 <context>

@@ -29,6 +29,13 @@
     </message>
 </context>
 <context>
+    <name>ChannelWindow</name>
+    <message>
+        <source>Channel</source>
+        <translation>Canal</translation>
+    </message>
+</context>
+<context>
     <name>DebugRecord</name>
     <message>
         <source>Debug Record</source>
@@ -836,6 +843,49 @@
     </message>
 </context>
 <context>
+    <name>LabelFullScreen</name>
+    <message>
+        <source>Exit Full Screen</source>
+        <translation>Salir de pantalla completa</translation>
+    </message>
+    <message>
+        <source>Full Screen</source>
+        <translation>Pantalla completa</translation>
+    </message>
+</context>
+<context>
+    <name>LabelRecordBtn</name>
+    <message>
+        <source>Stop Recording</source>
+        <translation>Detener grabación</translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation>Grabar</translation>
+    </message>
+</context>
+<context>
+    <name>LabelShotBtn</name>
+    <message>
+        <source>Screenshot</source>
+        <translation>Captura de imagen</translation>
+    </message>
+</context>
+<context>
+    <name>LabelWinBtn</name>
+    <message>
+        <source>Windows: %1</source>
+        <translation>Ventanas: %1</translation>
+    </message>
+</context>
+<context>
+    <name>LabelWindowNumBtn</name>
+    <message>
+        <source>Layout</source>
+        <translation>Disposición</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Debug Record</source>
@@ -876,6 +926,17 @@
     <message>
         <source>Restore</source>
         <translation>Restaurar</translation>
+    </message>
+</context>
+<context>
+    <name>PageBtn</name>
+    <message>
+        <source>Previous Page</source>
+        <translation>Página anterior</translation>
+    </message>
+    <message>
+        <source>Next Page</source>
+        <translation>Página siguiente</translation>
     </message>
 </context>
 <context>

@@ -29,6 +29,13 @@
     </message>
 </context>
 <context>
+    <name>ChannelWindow</name>
+    <message>
+        <source>Channel</source>
+        <translation>Canal</translation>
+    </message>
+</context>
+<context>
     <name>DebugRecord</name>
     <message>
         <source>Debug Record</source>
@@ -836,6 +843,49 @@
     </message>
 </context>
 <context>
+    <name>LabelFullScreen</name>
+    <message>
+        <source>Exit Full Screen</source>
+        <translation>Quitter le plein écran</translation>
+    </message>
+    <message>
+        <source>Full Screen</source>
+        <translation>Plein écran</translation>
+    </message>
+</context>
+<context>
+    <name>LabelRecordBtn</name>
+    <message>
+        <source>Stop Recording</source>
+        <translation>Arrêter l&apos;enregistrement</translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation>Enregistrer</translation>
+    </message>
+</context>
+<context>
+    <name>LabelShotBtn</name>
+    <message>
+        <source>Screenshot</source>
+        <translation>Capture d&apos;image</translation>
+    </message>
+</context>
+<context>
+    <name>LabelWinBtn</name>
+    <message>
+        <source>Windows: %1</source>
+        <translation>Fenêtres : %1</translation>
+    </message>
+</context>
+<context>
+    <name>LabelWindowNumBtn</name>
+    <message>
+        <source>Layout</source>
+        <translation>Disposition</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Debug Record</source>
@@ -876,6 +926,17 @@
     <message>
         <source>Restore</source>
         <translation>Restaurer</translation>
+    </message>
+</context>
+<context>
+    <name>PageBtn</name>
+    <message>
+        <source>Previous Page</source>
+        <translation>Page précédente</translation>
+    </message>
+    <message>
+        <source>Next Page</source>
+        <translation>Page suivante</translation>
     </message>
 </context>
 <context>

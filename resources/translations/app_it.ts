@@ -29,6 +29,13 @@
     </message>
 </context>
 <context>
+    <name>ChannelWindow</name>
+    <message>
+        <source>Channel</source>
+        <translation>Canale</translation>
+    </message>
+</context>
+<context>
     <name>DebugRecord</name>
     <message>
         <source>Debug Record</source>
@@ -836,6 +843,49 @@
     </message>
 </context>
 <context>
+    <name>LabelFullScreen</name>
+    <message>
+        <source>Exit Full Screen</source>
+        <translation>Esci da schermo intero</translation>
+    </message>
+    <message>
+        <source>Full Screen</source>
+        <translation>Schermo intero</translation>
+    </message>
+</context>
+<context>
+    <name>LabelRecordBtn</name>
+    <message>
+        <source>Stop Recording</source>
+        <translation>Interrompi registrazione</translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation>Registra</translation>
+    </message>
+</context>
+<context>
+    <name>LabelShotBtn</name>
+    <message>
+        <source>Screenshot</source>
+        <translation>Istantanea</translation>
+    </message>
+</context>
+<context>
+    <name>LabelWinBtn</name>
+    <message>
+        <source>Windows: %1</source>
+        <translation>Finestre: %1</translation>
+    </message>
+</context>
+<context>
+    <name>LabelWindowNumBtn</name>
+    <message>
+        <source>Layout</source>
+        <translation>Disposizione</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Debug Record</source>
@@ -876,6 +926,17 @@
     <message>
         <source>Restore</source>
         <translation>Ripristina</translation>
+    </message>
+</context>
+<context>
+    <name>PageBtn</name>
+    <message>
+        <source>Previous Page</source>
+        <translation>Pagina precedente</translation>
+    </message>
+    <message>
+        <source>Next Page</source>
+        <translation>Pagina successiva</translation>
     </message>
 </context>
 <context>

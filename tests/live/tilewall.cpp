@@ -27,6 +27,7 @@ TileWall::TileWall(const QString& uid, const QString& password, int tiles)
     }
     connect(places_.front().tile, &QOpenGLWidget::frameSwapped, this, &TileWall::composed);
     const IoConnect* io = IoConnect::instance();
+    disconnect(io, nullptr, ViewControl::instance(), nullptr); // it would start them once more
     connect(io, &IoConnect::tutkInitSuccessMsg, this, &TileWall::open);
     connect(io, &IoConnect::connectChannelSuccessMsg, this,
         [this](Channel* channel) { start(channel->number()); });

@@ -43,6 +43,7 @@ TileTest::TileTest(int tileCount, QSize tileSize)
     : io(IoConnect::instance()) // which the decoder has built
     , device(new Device)
 {
+    QObject::disconnect(io.get(), nullptr, &viewControl, nullptr); // no wall opens and closes here
     qRegisterMetaType<Channel*>("Channel*");
     qRegisterMetaType<Device*>("Device*");
     device->setChannelCount(tileCount);

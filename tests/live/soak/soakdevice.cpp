@@ -3,6 +3,7 @@
 
 #include "cloud/dev.h"
 #include "link/ioconnect.h"
+#include "wall/viewcontrol.h"
 
 #include <QTimer>
 
@@ -44,6 +45,7 @@ SoakDevice::SoakDevice(int number)
     device_->setViewPassword(QString::fromLatin1(BridgeProcess::password));
     device_->setChannelCount(channels);
     const IoConnect* io = IoConnect::instance();
+    disconnect(io, nullptr, ViewControl::instance(), nullptr); // the wall would start them too
     connect(io, &IoConnect::connectChannelSuccessMsg, this, &SoakDevice::channelConnected);
     connect(io, &IoConnect::videoRequestSuccessMsg, this, &SoakDevice::streamStarted);
     for (const auto fail : {&IoConnect::connectDevFailMsg, &IoConnect::connectChannelFailMsg,
