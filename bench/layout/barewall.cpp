@@ -38,7 +38,6 @@ void BareWall::setLayout(WINDOW_MOD mod)
     mod_ = mod;
     fitTiles();
     layOut(area()->size());
-    bringPictures(); // the same channels on other tiles
 }
 
 void BareWall::fitTiles()
@@ -60,6 +59,7 @@ void BareWall::layOut(QSize size)
     const std::vector<QRect> rects = windowRects(mod_, size);
     for (std::size_t i = 0; i < tiles_.size(); ++i)
         tiles_[i]->setGeometry(rects[i]);
+    bringPictures(); // a tile that has only moved is painted anew too
 }
 
 void BareWall::doubleClick()

@@ -21,7 +21,7 @@ QString LabelFullScreen::hint() const
     return isFull_ ? tr("Exit Full Screen") : tr("Full Screen");
 }
 
-void LabelFullScreen::clicked()
+void LabelFullScreen::click()
 {
     setFull(!isFull_);
     emit clickMsg(isFull_);

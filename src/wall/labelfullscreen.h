@@ -19,7 +19,7 @@ signals:
 
 protected:
     QString hint() const override;
-    void clicked() override;
+    void click() override;
     void hotChanged() override;
 
 private:

@@ -23,7 +23,7 @@ QString LabelRecordBtn::hint() const
     return isRecording_ ? tr("Stop Recording") : tr("Record");
 }
 
-void LabelRecordBtn::pressed()
+void LabelRecordBtn::press()
 {
     ViewControl* wall = ViewControl::instance();
     if (Channel* channel = Dev::instance()->selectedChannel(); channel != nullptr)

@@ -19,7 +19,7 @@ public slots:
 
 protected:
     QString hint() const override;
-    void pressed() override;
+    void press() override;
 
 private:
     void showRecording(bool isRecording);

@@ -17,12 +17,12 @@ QString LabelShotBtn::hint() const
     return tr("Screenshot");
 }
 
-void LabelShotBtn::pressed()
+void LabelShotBtn::press()
 {
     setPicture(keyPicture("screenShot-hover"));
 }
 
-void LabelShotBtn::released()
+void LabelShotBtn::release()
 {
     setPicture(keyPicture("screenShot"));
     if (Channel* channel = Dev::instance()->selectedChannel(); channel != nullptr)

@@ -13,6 +13,6 @@ public:
 
 protected:
     QString hint() const override;
-    void pressed() override;
-    void released() override;
+    void press() override;
+    void release() override;
 };

@@ -44,7 +44,7 @@ QString LabelWinBtn::hint() const
     return mod ? tr("Windows: %1").arg(windowTiles(*mod)) : QString();
 }
 
-void LabelWinBtn::clicked()
+void LabelWinBtn::click()
 {
     if (const std::optional<WINDOW_MOD> mod = modOf(objectName()))
         emit clickWindowMod(*mod);

@@ -21,7 +21,7 @@ signals:
 
 protected:
     QString hint() const override;
-    void clicked() override;
+    void click() override;
     void hotChanged() override;
 
 private:

@@ -38,7 +38,7 @@ QString LabelWindowNumBtn::hint() const
     return tr("Layout");
 }
 
-void LabelWindowNumBtn::clicked()
+void LabelWindowNumBtn::click()
 {
     setOpen(!isOpen_);
     emit clickWindowMenu();

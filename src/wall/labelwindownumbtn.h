@@ -22,7 +22,7 @@ public slots:
 
 protected:
     QString hint() const override;
-    void clicked() override;
+    void click() override;
 
 private:
     bool isOpen_ = false;

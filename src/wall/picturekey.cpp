@@ -50,7 +50,7 @@ void PictureKey::mousePressEvent(QMouseEvent* event)
     if (event->button() != Qt::LeftButton)
         return;
     isDown_ = true;
-    pressed();
+    press();
 }
 
 void PictureKey::mouseReleaseEvent(QMouseEvent* event)
@@ -58,9 +58,9 @@ void PictureKey::mouseReleaseEvent(QMouseEvent* event)
     if (event->button() != Qt::LeftButton || !isDown_)
         return;
     isDown_ = false;
-    released();
+    release();
     if (rect().contains(event->pos()))
-        clicked();
+        click();
 }
 
 void PictureKey::keyPressEvent(QKeyEvent* event)
@@ -69,9 +69,9 @@ void PictureKey::keyPressEvent(QKeyEvent* event)
         QLabel::keyPressEvent(event);
         return;
     }
-    pressed();
-    released();
-    clicked();
+    press();
+    release();
+    click();
 }
 
 void PictureKey::changeEvent(QEvent* event)
