@@ -21,9 +21,9 @@ protected:
     virtual QString hint() const = 0;
     void showHint();
 
-    virtual void pressed() { }
-    virtual void released() { } // wherever the mouse is then
-    virtual void clicked() { } // released over the key
+    virtual void press() { }
+    virtual void release() { } // wherever the mouse is then
+    virtual void click() { } // released over the key
     virtual void hotChanged() { } // the mouse or the focus came or went
 
     void enterEvent(QEvent* event) override;
