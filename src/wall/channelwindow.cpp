@@ -143,13 +143,15 @@ void ChannelWindow::showState(const char* nameStyle, const char* dotState)
 
 void ChannelWindow::mousePressEvent(QMouseEvent* event)
 {
-    if (channel_ == nullptr)
+    Device* const device = device_; // who hears of the selection may give the card another one
+    Channel* const channel = channel_;
+    if (channel == nullptr)
         return;
     if (event->button() == Qt::LeftButton) {
-        Dev::instance()->selectDevice(device_);
-        Dev::instance()->selectChannel(channel_);
+        Dev::instance()->selectDevice(device);
+        Dev::instance()->selectChannel(channel);
     } else if (event->button() == Qt::RightButton) {
-        emit ViewControl::instance()->openedSubWindowMenuMsg(device_, channel_, event);
+        emit ViewControl::instance()->openedSubWindowMenuMsg(device, channel, event);
     }
 }
 

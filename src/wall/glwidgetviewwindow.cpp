@@ -16,6 +16,8 @@
 #include <QOpenGLShader>
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace {
 
 constexpr GLfloat positions[] = {-1, -1, 1, -1, 1, 1, -1, 1};
@@ -138,6 +140,7 @@ void GlWidgetViewWindow::setChannel(Device* device, Channel* channel)
     }
     leaveWaiting();
     showRecord(false);
+    showSelectedChannel(nullptr);
     backgroundLabel_->show();
 }
 
@@ -268,7 +271,8 @@ void GlWidgetViewWindow::mouseReleaseEvent(QMouseEvent* event)
 {
     Device* const device = device_; // who hears of the selection may bind another one
     Channel* const channel = channel_;
-    if (channel != nullptr) {
+    const bool endsDoubleClick = std::exchange(endsDoubleClick_, false);
+    if (channel != nullptr && !endsDoubleClick) {
         Dev::instance()->selectDevice(device);
         Dev::instance()->selectChannel(channel);
         if (event->button() == Qt::RightButton)
@@ -279,6 +283,7 @@ void GlWidgetViewWindow::mouseReleaseEvent(QMouseEvent* event)
 
 void GlWidgetViewWindow::mouseDoubleClickEvent(QMouseEvent*)
 {
+    endsDoubleClick_ = true; // another channel may stand here when the button is released
     if (channel_ != nullptr)
         emit doubleClicked(channel_);
 }

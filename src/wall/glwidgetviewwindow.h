@@ -107,5 +107,6 @@ private:
     QTimer blinkTimer_;
     int blinkAlpha_ = 100; // percent
     bool mirror_ = false;
+    bool endsDoubleClick_ = false; // the release that is to come
     int scaleMode_ = 0;
 };

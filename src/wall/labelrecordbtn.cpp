@@ -45,6 +45,6 @@ void LabelRecordBtn::loadRecordStatus(Channel* channel)
 void LabelRecordBtn::showRecording(bool isRecording)
 {
     isRecording_ = isRecording;
-    setPicture(keyPicture(isRecording ? "screenCap-hover" : "screenCap"));
+    setPicture(keyPicture(isRecording ? "screenCap-hover" : "screenCap"), isRecording);
     showHint();
 }

@@ -19,7 +19,7 @@ QString LabelShotBtn::hint() const
 
 void LabelShotBtn::press()
 {
-    setPicture(keyPicture("screenShot-hover"));
+    setPicture(keyPicture("screenShot-hover"), true);
 }
 
 void LabelShotBtn::release()

@@ -55,5 +55,11 @@ void LabelWinBtn::hotChanged()
     const QString picture = objectName().replace(QStringLiteral("label_"), QStringLiteral("pt_"));
     const QString state = isCurrent_ ? QStringLiteral("-on") : QString();
     setPicture(keyPicture("") + picture + state);
-    setStyleSheet(isHot() ? QStringLiteral("background:rgba(255,255,255,0.2)") : QString());
+    // For this class alone: a sheet without a selector reaches the tooltip.
+    if (hasFocus())
+        setStyleSheet(QStringLiteral("LabelWinBtn{background:rgba(100,149,237,0.22)}"));
+    else if (underMouse())
+        setStyleSheet(QStringLiteral("LabelWinBtn{background:rgba(255,255,255,0.2)}"));
+    else
+        setStyleSheet(QString());
 }

@@ -49,5 +49,5 @@ void LabelWindowNumBtn::windowNumberChange()
     const ViewControl* wall = ViewControl::instance();
     const auto mod = static_cast<std::size_t>(wall->getWindowMod(wall->getIsLive()));
     const QString name = keyPicture(pictures.at(mod));
-    setPicture(isOpen_ ? name + QStringLiteral("-hover") : name);
+    setPicture(isOpen_ ? name + QStringLiteral("-hover") : name, isOpen_);
 }

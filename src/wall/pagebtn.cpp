@@ -4,6 +4,7 @@
 #include "app/activation.h"
 #include "app/pictures.h"
 #include "app/systeminfo.h"
+#include "link/ioconnect.h"
 #include "wall/viewcontrol.h"
 
 #include <QPainter>
@@ -29,6 +30,12 @@ PageBtn::PageBtn(int direction, QWidget* parent)
     const ViewControl* wall = ViewControl::instance();
     connect(wall, &ViewControl::createPageMsg, this, qOverload<>(&QWidget::update));
     connect(wall, &ViewControl::changeModMsg, this, qOverload<>(&QWidget::update));
+    connect(wall, &ViewControl::resizeMsg, this, qOverload<>(&QWidget::update));
+    // A start that fails closes its channel, and may so take a page away.
+    const IoConnect* io = IoConnect::instance();
+    for (const auto failure : {&IoConnect::connectDevFailMsg, &IoConnect::connectChannelFailMsg,
+             &IoConnect::videoRequestFailMsg, &IoConnect::startReplayFailMsg})
+        connect(io, failure, this, qOverload<>(&QWidget::update));
 }
 
 bool PageBtn::eventFilter(QObject* watched, QEvent* event)
@@ -61,13 +68,20 @@ void PageBtn::paintEvent(QPaintEvent*)
 {
     constexpr double faint = 0.55;
     const bool isActive = hasPage();
-    const bool isHot = isActive && (underMouse() || hasFocus());
+    const bool isHot = isActive && underMouse();
     QString name = keyPicture(direction_ == leftButton ? "page_left" : "page_right");
     if (isHot)
         name += QStringLiteral("-hover");
     QPainter painter(this);
     painter.setOpacity(isActive ? 1 : faint);
     painter.drawPixmap(rect(), QPixmap(name + QStringLiteral(".png")));
+    if (!hasFocus())
+        return;
+    constexpr QColor focusColour(0x64, 0x95, 0xED);
+    constexpr int focusWidth = 2;
+    painter.setOpacity(1);
+    painter.setPen(QPen(focusColour, focusWidth));
+    painter.drawRect(rect().adjusted(1, 1, -1, -1));
 }
 
 void PageBtn::enterEvent(QEvent*)

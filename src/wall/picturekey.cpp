@@ -3,6 +3,8 @@
 
 #include "app/activation.h"
 
+#include <QStyle>
+
 PictureKey::PictureKey(QWidget* parent)
     : QLabel(parent)
 {
@@ -12,8 +14,12 @@ PictureKey::PictureKey(QWidget* parent)
     setCursor(Qt::PointingHandCursor);
 }
 
-void PictureKey::setPicture(const QString& name)
+void PictureKey::setPicture(const QString& name, bool hasPlate)
 {
+    if (property("plate") != hasPlate) {
+        setProperty("plate", hasPlate);
+        style()->polish(this);
+    }
     setPixmap(QPixmap(name + QStringLiteral(".png")));
 }
 

@@ -44,8 +44,7 @@ ViewControl::ViewControl()
 
 ViewControl::~ViewControl()
 {
-    while (!windows_.empty())
-        delete windows_.back(); // which takes itself out, see addTile()
+    deleteWindows();
     if (theViewControl == this)
         theViewControl = nullptr;
 }
@@ -107,6 +106,12 @@ void ViewControl::recreateWindows()
         createWindows(screen_);
     else
         fitTiles();
+}
+
+void ViewControl::deleteWindows()
+{
+    while (!windows_.empty())
+        delete windows_.back(); // which takes itself out, see addTile()
 }
 
 void ViewControl::fitTiles()
@@ -175,12 +180,14 @@ void ViewControl::forgetTile(const GlWidgetViewWindow* tile)
 // stays on the screen.
 void ViewControl::showBoard()
 {
-    for (std::size_t i = 0; i < windows_.size(); ++i) {
+    // A tile that is being made may tell of itself before all are there.
+    const std::size_t count = std::min(windows_.size(), std::size_t(board_.count()));
+    for (std::size_t i = 0; i < count; ++i) {
         Channel* held = windows_[i]->getChannel();
         if (held != nullptr && held->tile == windows_[i])
             held->tile = nullptr;
     }
-    for (std::size_t i = 0; i < windows_.size(); ++i) {
+    for (std::size_t i = 0; i < count; ++i) {
         GlWidgetViewWindow* tile = windows_[i];
         Channel* channel = board_.at(static_cast<int>(i));
         tile->setMirror(i == 0 && board_.hasMirror());
@@ -243,6 +250,8 @@ int ViewControl::ordinalOfChannel(Channel* channel) const
 
 void ViewControl::showChannel(Channel* channel)
 {
+    if (channel == nullptr || channel->device()->isRetired())
+        return; // an answer that was under way when its device left
     board_.show(channel);
     showBoard();
 }

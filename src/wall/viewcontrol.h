@@ -57,13 +57,16 @@ public:
     // How tiles fit pictures: 0 fills the tile, 1 keeps 4:3, 2 keeps 16:9.
     int getScale() const { return scale_; }
 
-    // What stands on the tiles; null on an empty one. Before there are widgets too.
+    // What stands on the tiles, 0 to getTileCount() - 1; null on an empty one. Before there are
+    // widgets too.
     int getTileCount() const { return board_.count(); }
     Channel* getTileChannel(int tile) const { return board_.at(tile); }
 
     // Tiles. `createWindows` makes as many as the layout has, inside `parent`, and lays them out.
     void createWindows(QWidget* parent);
     void recreateWindows();
+    // At once; the channels keep their places. Before the window that holds the tiles changes.
+    void deleteWindows();
     void layoutWindows(int width, int height);
 
     void setWindowMod(WINDOW_MOD mod, bool isLive); // also into the settings
@@ -72,7 +75,8 @@ public:
     void setFull(bool isFull);
     void setScale(int scale);
 
-    // Channels; null is ignored. `connectChannel` opens one for live view unless it is a retry.
+    // Channels. `connectChannel` opens one for live view unless it is a retry. It, `closeChannel` and
+    // `deleteDevice` ignore null.
     void connectChannel(Channel* channel, bool isRetry, bool isLive);
     void openReplayChannel(Channel* channel);
     void playAllReplay(Device* device); // one channel after another
