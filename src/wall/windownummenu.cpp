@@ -4,13 +4,15 @@
 #include "app/systeminfo.h"
 #include "ui_windownummenu.h"
 
+#include <QPainter>
+#include <QStyleOption>
+
 WindowNumMenu::WindowNumMenu(QWidget* parent)
     : QWidget(parent)
     , ui_(std::make_unique<Ui::WindowNumMenu>())
 {
     ui_->setupUi(this);
     setAttribute(Qt::WA_TranslucentBackground);
-    setAttribute(Qt::WA_StyledBackground);
     const auto keys = findChildren<LabelWinBtn*>();
     for (const LabelWinBtn* key : keys)
         connect(key, &LabelWinBtn::clickWindowMod, this, &WindowNumMenu::clickWindowMod);
@@ -21,6 +23,15 @@ WindowNumMenu::WindowNumMenu(QWidget* parent)
 }
 
 WindowNumMenu::~WindowNumMenu() = default;
+
+// The plate: a translucent widget has no background of its own.
+void WindowNumMenu::paintEvent(QPaintEvent*)
+{
+    QStyleOption option;
+    option.initFrom(this);
+    QPainter painter(this);
+    style()->drawPrimitive(QStyle::PE_Widget, &option, &painter, this);
+}
 
 void WindowNumMenu::changeMod(bool isLive)
 {

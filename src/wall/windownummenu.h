@@ -30,6 +30,9 @@ public slots:
     void resize();
     void changeMod(bool isLive);
 
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
 private:
     const std::unique_ptr<Ui::WindowNumMenu> ui_;
 };
