@@ -111,7 +111,8 @@ void TestRecordedBlocks::longBlockIsCut()
 void TestRecordedBlocks::blockThatIsNotThereIsEmpty_data()
 {
     QTest::addColumn<int>("index");
-    for (const int index : {-1, 2, std::numeric_limits<int>::max(), std::numeric_limits<int>::min()})
+    for (const int index :
+        {-1, 2, std::numeric_limits<int>::max(), std::numeric_limits<int>::min()})
         QTest::addRow("%d", index) << index;
 }
 

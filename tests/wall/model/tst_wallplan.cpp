@@ -232,8 +232,7 @@ void TestWallPlan::noPageIsTooFarAway()
     const std::vector<WallChannel> channels = channelsOf(QStringLiteral("AABB"));
     QCOMPARE(
         tilesText(fillTiles(channels, noChannel, {4, false}, page, 4)), QStringLiteral("- - - -"));
-    QCOMPARE(
-        tilesText(fillTiles(channels, noChannel, {2, true}, page, 64)), QStringLiteral("2 -"));
+    QCOMPARE(tilesText(fillTiles(channels, noChannel, {2, true}, page, 64)), QStringLiteral("2 -"));
 }
 
 ORVA_TEST(TestWallPlan)
