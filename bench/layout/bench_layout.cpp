@@ -80,7 +80,6 @@ private:
     void step(const std::string& what, const std::function<void()>& work)
     {
         Sample sample;
-        if (qEnvironmentVariableIsSet("LOGSTEPS")) std::fprintf(stderr, "%s\n", what.c_str());
         const Meter all;
         work();
         sample.call = all.elapsed();

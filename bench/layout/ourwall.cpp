@@ -30,7 +30,7 @@ OurWall::OurWall(QSize size)
 
 OurWall::~OurWall()
 {
-    dropArea(); // before who owns the tiles
+    dropTiles(); // before their owner goes
 }
 
 // In live view, and wanted in playback too.

@@ -55,10 +55,13 @@ std::string cell(const std::vector<Sample>& samples, const Figure& figure)
 
 std::string ratio(const Row& row, const Figure& figure)
 {
+    constexpr double nothing = 0.1; // milliseconds: no work to compare with
     const double bare = spreadOf(row.bare, figure).median;
+    if (bare < nothing)
+        return "-";
     char text[32];
     std::snprintf(text, sizeof text, "%.2f", spreadOf(row.ours, figure).median / bare);
-    return bare > 0 ? text : "-";
+    return text;
 }
 
 constexpr char line[] = "%-16s %-5s %15s %15s %15s %15s\n";

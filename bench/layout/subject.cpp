@@ -34,11 +34,6 @@ void Subject::makeTiles()
     makeTilesOn(area_.get());
 }
 
-void Subject::dropTiles()
-{
-    dropArea();
-}
-
 void Subject::resizeTo(QSize size)
 {
     area_->resize(size);

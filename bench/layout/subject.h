@@ -27,7 +27,7 @@ public:
     // Without tiles: what the next ones are to be.
     virtual void prepare(WINDOW_MOD mod) = 0;
     void makeTiles();
-    void dropTiles(); // with the widget that they stand on
+    void dropTiles() { area_.reset(); } // with the widget that they stand on
 
     virtual void setLayout(WINDOW_MOD mod) = 0;
     virtual void doubleClick() = 0; // on the last tile: it alone, or all of them again
@@ -43,7 +43,6 @@ protected:
     virtual void makeTilesOn(QWidget* area) = 0;
     virtual void layOut(QSize size) = 0;
     QWidget* area() const { return area_.get(); }
-    void dropArea() { area_.reset(); }
 
 private:
     QWidget window_;

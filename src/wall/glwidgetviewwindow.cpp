@@ -264,7 +264,9 @@ void GlWidgetViewWindow::changeRecordText()
 void GlWidgetViewWindow::showSelectedChannel(Channel* channel)
 {
     const bool selected = channel != nullptr && channel == channel_;
-    frameWidget_->setStyleSheet(QString::fromLatin1(selected ? selectedFrame : plainFrame));
+    const QString style = QString::fromLatin1(selected ? selectedFrame : plainFrame);
+    if (frameWidget_->styleSheet() != style) // the same one anew would be worked out anew
+        frameWidget_->setStyleSheet(style);
 }
 
 void GlWidgetViewWindow::mouseReleaseEvent(QMouseEvent* event)
@@ -393,8 +395,18 @@ QSize GlWidgetViewWindow::pictureArea(const QSize& tile, int scaleMode)
     return tile;
 }
 
+// Qt paints within it, and again for the update() of resizeGL.
+void GlWidgetViewWindow::resizeEvent(QResizeEvent* event)
+{
+    resizing_ = true;
+    QOpenGLWidget::resizeEvent(event);
+    resizing_ = false;
+}
+
 void GlWidgetViewWindow::paintGL()
 {
+    if (resizing_)
+        return;
     if (channel_ == nullptr || yuvData_ == nullptr) {
         glClear(GL_COLOR_BUFFER_BIT); // the last picture
         return;

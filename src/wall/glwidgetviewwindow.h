@@ -68,6 +68,7 @@ protected:
     void initializeGL() override;
     void resizeGL(int width, int height) override;
     void paintGL() override;
+    void resizeEvent(QResizeEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
@@ -109,4 +110,5 @@ private:
     bool mirror_ = false;
     bool endsDoubleClick_ = false; // the release that is to come
     int scaleMode_ = 0;
+    bool resizing_ = false; // inside the event
 };

@@ -147,6 +147,8 @@ void ViewControl::addTile()
     auto* tile = new GlWidgetViewWindow(screen_);
     connect(tile, &GlWidgetViewWindow::doubleClicked, this, &ViewControl::doubleClickScreen);
     connect(tile, &QObject::destroyed, this, [this, tile] { forgetTile(tile); });
+    // In its place before it is shown, or its buffer would be made twice.
+    tile->setGeometry(windowRects(windowMod(), screen_->size())[windows_.size()]);
     tile->show();
     windows_.push_back(tile);
 }

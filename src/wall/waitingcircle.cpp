@@ -3,24 +3,45 @@
 
 #include "app/systeminfo.h"
 
+#include <QMovie>
+
 namespace {
 
 constexpr int side = 64; // pixels, of the animation at scale 1
+
+// One for all: each frame of each animation has the whole window put together anew.
+std::shared_ptr<QMovie> sharedMovie(int scaled)
+{
+    static std::weak_ptr<QMovie> shared;
+    std::shared_ptr<QMovie> movie = shared.lock();
+    if (movie)
+        return movie;
+    movie = std::make_shared<QMovie>(QStringLiteral(":/main/images/btnImg/Loading_icon.gif"));
+    movie->setScaledSize(QSize(scaled, scaled));
+    movie->setCacheMode(QMovie::CacheAll);
+    movie->start();
+    shared = movie;
+    return movie;
+}
+
+int scaledSide()
+{
+    return qRound(side * SystemInfo::instance()->getRatio());
+}
 
 } // namespace
 
 WaitingCircle::WaitingCircle(QWidget* parent)
     : QLabel(parent)
-    , movie_(QStringLiteral(":/main/images/btnImg/Loading_icon.gif"))
+    , movie_(sharedMovie(scaledSide()))
 {
-    const int scaled = qRound(side * SystemInfo::instance()->getRatio());
-    movie_.setScaledSize(QSize(scaled, scaled));
-    setFixedSize(scaled, scaled);
+    setFixedSize(scaledSide(), scaledSide());
     setStyleSheet(QStringLiteral("background:transparent")); // whatever its surroundings are given
     setAttribute(Qt::WA_TransparentForMouseEvents);
-    setMovie(&movie_);
-    movie_.start();
+    setMovie(movie_.get());
 }
+
+WaitingCircle::~WaitingCircle() = default;
 
 void WaitingCircle::centre()
 {

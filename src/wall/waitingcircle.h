@@ -2,7 +2,10 @@
 #pragma once
 
 #include <QLabel>
-#include <QMovie>
+
+#include <memory>
+
+class QMovie;
 
 // The turning disc over something that is being waited for. Main thread.
 class WaitingCircle final : public QLabel
@@ -11,10 +14,11 @@ class WaitingCircle final : public QLabel
 
 public:
     explicit WaitingCircle(QWidget* parent);
+    ~WaitingCircle() override;
 
     // Puts it into the middle of its parent.
     void centre();
 
 private:
-    QMovie movie_;
+    const std::shared_ptr<QMovie> movie_; // of all that turn: they turn as one
 };
