@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QLabel>
+#include <QMouseEvent>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -24,7 +25,7 @@ void keepPicturesApart()
     Location::instance()->setPicPath(folder.path());
 }
 
-void savePicture(const QString& path, QColor colour, QSize size)
+void savePicture(const QString& path, const QColor& colour, QSize size)
 {
     QDir().mkpath(QFileInfo(path).path());
     QImage image(size, QImage::Format_RGB32);
@@ -37,9 +38,12 @@ CardTest::CardTest()
     : device(wall.addDevice(2))
     , other(wall.addDevice(1, false))
 {
+    qRegisterMetaType<QMouseEvent*>("QMouseEvent*");
     keepPicturesApart();
     card.setWindowFlags(Qt::FramelessWindowHint);
     card.setChannel(device, channel());
+    card.adjustSize();
+    card.grab(); // lays it out
 }
 
 bool CardTest::show()

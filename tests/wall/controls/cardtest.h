@@ -26,7 +26,7 @@ struct CardParts
 // Lets pictures of channels lie in a folder of this process. To be called before the first card.
 void keepPicturesApart();
 // A file of one colour.
-void savePicture(const QString& path, QColor colour, QSize size = QSize(96, 54));
+void savePicture(const QString& path, const QColor& colour, QSize size = QSize(96, 54));
 
 // A connected device of two channels, one that is not connected, and a card that is the first
 // channel's, which is a window where it is shown. Lives within one test function.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QEvent>
 #include <QImage>
 #include <QObject>
 #include <QPoint>
@@ -50,6 +51,6 @@ public:
     Q_DISABLE_COPY_MOVE(Brackets)
 
     bool isEmpty() const override { return false; }
-    QString translate(const char* context, const char* text, const char* = nullptr,
-        int = -1) const override;
+    QString translate(
+        const char* context, const char* text, const char* = nullptr, int = -1) const override;
 };
