@@ -23,10 +23,11 @@ constexpr char failStyle[] =
 constexpr char stoppedStyle[] =
     "font-size:11px;border:0;border-image:none;color:#ffffff;background:transparent";
 
-// A style sheet ends a text at its quotation mark, which the name of a folder may hold.
+// A style sheet ends a text at its quotation mark, which the name of a folder may hold; and it reads
+// codes before it reads backslashes, so a backslash is a code itself, twice.
 QString quoted(QString path)
 {
-    path.replace(QLatin1Char('\\'), QLatin1String("\\\\"));
+    path.replace(QLatin1Char('\\'), QLatin1String("\\00005c\\00005c"));
     path.replace(QLatin1Char('"'), QLatin1String("\\\""));
     return QLatin1Char('"') + path + QLatin1Char('"');
 }

@@ -30,5 +30,5 @@ void LabelFullScreen::click()
 void LabelFullScreen::hotChanged()
 {
     const QString name = keyPicture(isFull_ ? "full_exit" : "full");
-    setPicture(isHot() ? name + QStringLiteral("-hover") : name, isHot());
+    setPicture(underMouse() ? name + QStringLiteral("-hover") : name, underMouse());
 }

@@ -81,7 +81,9 @@ void PageBtn::paintEvent(QPaintEvent*)
     constexpr int focusWidth = 2;
     painter.setOpacity(1);
     painter.setPen(QPen(focusColour, focusWidth));
-    painter.drawRect(rect().adjusted(1, 1, -1, -1));
+    constexpr int radius = 4;
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.drawRoundedRect(rect().adjusted(1, 1, -1, -1), radius, radius);
 }
 
 void PageBtn::enterEvent(QEvent*)
