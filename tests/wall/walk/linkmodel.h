@@ -82,6 +82,9 @@ public:
     // An attempt for the slow device came to its end.
     void endAttempt(ModelDevice* device, bool isReached);
 
+    // Then the order of results is for the threads to decide, and no walk may come to it.
+    bool isAmbiguous() const { return waitingDevices_.size() > 1; }
+
     WalkFaults faults;
     const ModelDevice* slow = nullptr; // attempts for it do not end by themselves
     std::vector<WalkMessage> sent;

@@ -433,6 +433,8 @@ bool WallWalk::removeDevice()
 bool WallWalk::playAll()
 {
     ModelDevice* device = pickDevice();
+    if (!mayConnect(device))
+        return false;
     planFault(&device->channels[static_cast<std::size_t>(pick(int(device->channels.size())))]);
     say(QStringLiteral("play all of ") + nameOf(device));
     target_->wall().playAllReplay(realOf(device));

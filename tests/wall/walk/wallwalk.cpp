@@ -160,6 +160,8 @@ bool WallWalk::step()
         return false;
     }
     link_->settle();
+    if (link_->isAmbiguous())
+        qFatal("step %d: two devices wait for a session", step_);
     noteState();
     return compare();
 }
