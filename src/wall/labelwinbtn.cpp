@@ -3,6 +3,8 @@
 
 #include "app/pictures.h"
 
+#include <QVariant>
+
 #include <algorithm>
 #include <array>
 #include <optional>

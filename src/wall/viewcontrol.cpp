@@ -222,6 +222,7 @@ void ViewControl::refill()
         fillTiles(planChannels(channels), channels.indexOf(Dev::instance()->selectedChannel()),
             {board_.count(), board_.hasMirror()}, getPage(), windowCapacity(windowMod()));
     std::vector<Channel*> filled;
+    filled.reserve(plan.size());
     for (const int channel : plan)
         filled.push_back(channel != noChannel ? channels.at(channel) : nullptr);
     board_.fill(std::move(filled));

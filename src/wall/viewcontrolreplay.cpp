@@ -30,7 +30,7 @@ void ViewControl::setSpeed(PLAY_SPEED speed, bool back)
 QDateTime ViewControl::getPlayStart(int* offset) const
 {
     const QDateTime point = getDateTime();
-    const QDateTime start = blocks_.playStart(point);
+    QDateTime start = blocks_.playStart(point);
     *offset = start < point ? static_cast<int>(start.secsTo(point)) : 0;
     return start;
 }
