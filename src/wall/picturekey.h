@@ -16,7 +16,6 @@ protected:
     // The name in the resources, without ".png". A picture with a plate of its own gets no second
     // one while the mouse is over it.
     void setPicture(const QString& name, bool hasPlate = false);
-    bool isHot() const { return underMouse() || hasFocus(); }
 
     // What the key does, for the tooltip and for screen readers; asked again for each language.
     virtual QString hint() const = 0;
