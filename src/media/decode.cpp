@@ -64,6 +64,7 @@ void Decode::createStream(Channel* channel, bool isLive)
     });
     if (known != streams_.cend()) {
         (*known)->start();
+        (*known)->silentSeconds = 0;
         return;
     }
     auto* stream = new Stream(channel, isLive, this);
@@ -134,8 +135,24 @@ void Decode::reset()
         stream->setFrameRate(stream->videoCount);
         emit decodeCountMsg(stream->channel(), stream->videoCount, stream->audioCount,
             stream->videoDecodedCount(), stream->audioPlayedCount());
+        watch(stream);
         stream->videoCount = 0;
         stream->audioCount = 0;
         stream->resetDecodedCounts();
     }
+}
+
+// No result of the layer is looked at for this: a device that is gone and a camera that has frozen
+// look the same to whoever watches them. A replay may be silent because it is paused.
+void Decode::watch(Stream* stream)
+{
+    constexpr int patience = 6; // seconds; a slow stream is not a dead one
+    if (!stream->isLive() || !stream->isRunning() || stream->channel() == nullptr)
+        return;
+    const int before = stream->silentSeconds;
+    stream->silentSeconds = stream->videoCount > 0 ? 0 : before + 1;
+    if (stream->silentSeconds == patience)
+        emit streamSilentMsg(stream->channel());
+    else if (stream->silentSeconds == 0 && before >= patience)
+        emit streamBackMsg(stream->channel());
 }

@@ -52,11 +52,16 @@ signals:
     // Of the second that has just ended.
     void decodeCountMsg(
         Channel* channel, int videoReceived, int audioReceived, int videoDecoded, int audioPlayed);
+    // A live stream has brought no frame for six seconds: its device has dropped out, or its camera.
+    // Then: it brings frames again.
+    void streamSilentMsg(Channel* channel);
+    void streamBackMsg(Channel* channel);
     void screenshotMsg(Channel* channel, bool isPlaceholder, const QString& path);
     void showImageFinishMsg(Channel* channel, uint timestamp);
 
 private:
     void createStream(Channel* channel, bool isLive);
+    void watch(Stream* stream);
     void removeDevice(const Device* device);
     void removeAt(int index);
     void destroyLeft();

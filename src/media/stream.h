@@ -56,6 +56,7 @@ public:
     // Frames received since whoever counts has set them to 0.
     int videoCount = 0;
     int audioCount = 0;
+    int silentSeconds = 0; // without a picture, up to now; as that count
 
 public slots:
     void getVideo();
