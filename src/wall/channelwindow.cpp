@@ -58,6 +58,8 @@ void ChannelWindow::connectSenders()
     connect(io, &IoConnect::connectChannelFailMsg, this, &Card::connectChannelFail);
     connect(io, &IoConnect::videoRequestStopSuccessMsg, this, &Card::videoRequestStopSuccess);
     connect(io, &IoConnect::stopReplaySuccessMsg, this, &Card::videoRequestStopSuccess);
+    connect(Decode::instance(), &Decode::streamSilentMsg, this, &Card::connectChannelFail);
+    connect(Decode::instance(), &Decode::streamBackMsg, this, &Card::connectChannelSuccess);
     connect(Decode::instance(), &Decode::screenshotMsg, this, &Card::loadImage);
 }
 

@@ -116,6 +116,7 @@ void GlWidgetViewWindow::connectSenders()
     connect(io, &IoConnect::stopReplaySuccessMsg, this, &Tile::cleanScreen);
     connect(io, &IoConnect::waitingStreamMsg, this, &Tile::showWaiting);
     connect(io, &IoConnect::videoRequestFailMsg, this, &Tile::hideWaiting);
+    connect(Decode::instance(), &Decode::streamSilentMsg, this, &Tile::showWaiting);
     connect(wall, &ViewControl::recordMsg, this, &Tile::loadRecordStatus);
     connect(wall, &ViewControl::windowNumberChangeMsg, this, &Tile::reloadImg);
     connect(wall, &ViewControl::scaleChangeMsg, this, &Tile::scaleChange);
