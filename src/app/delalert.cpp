@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/delalert.h"
+
+#include "cloud/dev.h"
+#include "ui_delalert.h"
+#include "wall/viewcontrol.h"
+
+#include <QKeyEvent>
+
+DelAlert::DelAlert(Device* device, QWidget* parent)
+    : QWidget(parent)
+    , ui_(std::make_unique<Ui::DelAlert>())
+    , device_(device)
+{
+    ui_->setupUi(this);
+    setAttribute(Qt::WA_StyledBackground);
+    const QString name = device->nickName();
+    ui_->label_device->setText(
+        name.isEmpty() ? device->uid() : QStringLiteral("%1 (%2)").arg(name, device->uid()));
+    connect(ui_->pushButton_confirm, &QPushButton::clicked, this, &DelAlert::confirm);
+    connect(ui_->pushButton_cancel, &QPushButton::clicked, ViewControl::instance(),
+        &ViewControl::closeDelAlertMsg);
+    connect(Dev::instance(), &Dev::deleteDevMsg, this, &DelAlert::forgetDevice);
+    adjustSize();
+    ui_->pushButton_cancel->setFocus();
+}
+
+DelAlert::~DelAlert() = default;
+
+void DelAlert::confirm()
+{
+    Dev::instance()->deleteLocalDev(device_);
+    emit ViewControl::instance()->closeDelAlertMsg();
+}
+
+void DelAlert::forgetDevice(const Device* device)
+{
+    if (device == device_)
+        device_ = nullptr;
+}
+
+void DelAlert::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Escape)
+        emit ViewControl::instance()->closeDelAlertMsg();
+    else
+        QWidget::keyPressEvent(event);
+}
