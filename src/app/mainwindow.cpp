@@ -359,6 +359,8 @@ void MainWindow::fullGL(bool isFull)
     if (windowNumMenu_ != nullptr)
         windowNumMenu_->raise();
     riseWidget();
+    ui_->widget_videoView
+        ->setFocus(); // what is hidden gave it to the next key; Escape is wanted here
     wall->setFull(isFull);
 }
 

@@ -108,6 +108,7 @@ private:
     void sizePanels();
     void placePopups();
     void centreOnWall(QWidget* popup) const;
+    void moveClear(QWidget* hint) const;
     void showPopup(QWidget* popup);
     void openEscAlert();
     void retranslate();

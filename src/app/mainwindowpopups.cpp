@@ -42,7 +42,7 @@ void MainWindow::centreOnWall(QWidget* popup) const
 
 void MainWindow::showPopup(QWidget* popup)
 {
-    centreOnWall(popup);
+    placePopups();
     popup->show();
     popup->raise();
 }
@@ -54,6 +54,19 @@ void MainWindow::placePopups()
              static_cast<QWidget*>(escAlert_)}) {
         if (popup != nullptr)
             centreOnWall(popup);
+    }
+    if (escAlert_ != nullptr)
+        moveClear(escAlert_);
+}
+
+// The hint stands below whatever has the centre already.
+void MainWindow::moveClear(QWidget* hint) const
+{
+    constexpr int gap = 16;
+    for (const QWidget* popup : {static_cast<QWidget*>(alert_), static_cast<QWidget*>(delAlert_),
+             static_cast<QWidget*>(reopenAlert_), static_cast<QWidget*>(screenShotAlert_)}) {
+        if (popup != nullptr && popup->geometry().intersects(hint->geometry()))
+            hint->move(hint->x(), popup->geometry().bottom() + gap);
     }
 }
 

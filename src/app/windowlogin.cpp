@@ -15,9 +15,11 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QMoveEvent>
 #include <QScreen>
 #include <QSignalBlocker>
 #include <QStyledItemDelegate>
+#include <QWindow>
 
 #include <optional>
 
@@ -443,6 +445,7 @@ void WindowLogin::logined()
     ui_->layout_central->addWidget(mainWindow_);
     connect(mainWindow_, &MainWindow::moveMsg, this, &WindowLogin::moveWindow);
     setWindowFlags(Qt::FramelessWindowHint);
+    isPlaced_ = false;
     mainWindow_->showWindow();
     show();
     // Hiding took the activation away, and the window manager, which gives the focus to the same
@@ -521,6 +524,19 @@ void WindowLogin::normalScreen()
         return;
     normalScreen_ = true;
     setWindowState(Qt::WindowNoState);
+}
+
+// A window manager may put its own frame around the window first and move it afterwards; asked in
+// between, it gives the corner of the screen, and never corrects that: menus would open, and drags
+// begin, in the wrong place. Asking for the place again makes it tell.
+void WindowLogin::moveEvent(QMoveEvent* event)
+{
+    QMainWindow::moveEvent(event);
+    if (isPlaced_ || !event->spontaneous())
+        return;
+    isPlaced_ = true;
+    if (event->pos().isNull())
+        windowHandle()->setPosition(event->oldPos());
 }
 
 void WindowLogin::showEvent(QShowEvent* event)

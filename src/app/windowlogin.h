@@ -52,6 +52,7 @@ private slots:
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void changeEvent(QEvent* event) override;
 
@@ -90,6 +91,7 @@ private:
     AccountNotice* forgetWindow_ = nullptr;
     bool passwordVisible_ = false;
     bool minimized_ = false;
+    bool isPlaced_ = true; // the window manager has told where the main frame stands
     bool normalScreen_ = true;
     QString rememberText_; // last state of the check box
     QList<LoginRecord> logins_; // newest first, and the items of userCombo_ in the same order

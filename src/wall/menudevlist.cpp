@@ -36,7 +36,6 @@ MenuDevList::MenuDevList(QWidget* parent)
     ui_->setupUi(this);
     setAttribute(Qt::WA_StyledBackground);
     ui_->pushButton_refresh->setIcon(QIcon(keyPicture("refresh.png")));
-    ui_->pushButton_add->setIcon(QIcon(keyPicture("add.png")));
     ui_->lineEdit_search->addAction(QIcon(keyPicture("search.png")), QLineEdit::LeadingPosition);
     retryTimer_.setSingleShot(true);
     retryTimer_.setInterval(retryInterval);

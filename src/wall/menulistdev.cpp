@@ -22,6 +22,12 @@ constexpr char idleColor[] = "color: #4e525a;font-size:11px;";
 constexpr char failColor[] = "color: #FF0000;font-size:11px;";
 constexpr char runColor[] = "color: #008000;font-size:11px;";
 
+// For the row alone: the dot in it keeps its colour, and the tooltip its own.
+QString titleStyle(const char* style)
+{
+    return QStringLiteral("MenuDevTitle{%1}").arg(QLatin1String(style));
+}
+
 QString shortened(const QString& name)
 {
     constexpr int most = 12;
@@ -227,13 +233,13 @@ void MenuListDev::selectDev(Device* dev)
 {
     const bool isSelected = device_ != nullptr && dev == device_;
     ui_->widget_title->setStyleSheet(
-        isSelected ? QStringLiteral("background-color:rgb(200, 220, 255)") : QString());
+        isSelected ? titleStyle("background-color:rgb(200, 220, 255)") : QString());
 }
 
 void MenuListDev::selectChannel(Channel* channel)
 {
     if (isOurs(channel))
-        ui_->widget_title->setStyleSheet(QStringLiteral("background-color:#eee"));
+        ui_->widget_title->setStyleSheet(titleStyle("background-color:#eee"));
     else
         selectDev(Dev::instance()->selectedDevice());
 }

@@ -14,7 +14,8 @@ constexpr char selectedTextStyle[] = "color:#0F1A2E;font-weight:600";
 constexpr char normalStyle[] = "WidgetBtnLive{background:transparent;border-radius:4px}"
                                "WidgetBtnLive:hover{background:rgba(255,255,255,0.10)}"
                                "WidgetBtnLive:focus{border:2px solid #6495ED}";
-constexpr char normalTextStyle[] = "color:#EEF2F7;font-weight:600";
+constexpr char normalTextStyle[] = "QLabel{color:#EEF2F7;font-weight:600}"
+                                   "QLabel:disabled{color:#8592A4}";
 
 } // namespace
 
