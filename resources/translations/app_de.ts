@@ -29,6 +29,25 @@
     </message>
 </context>
 <context>
+    <name>Alert</name>
+    <message>
+        <source>Error Code:</source>
+        <translation>Fehlercode:</translation>
+    </message>
+    <message>
+        <source>Device:</source>
+        <translation>Gerät:</translation>
+    </message>
+    <message>
+        <source>Information:</source>
+        <translation>Information:</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+</context>
+<context>
     <name>ChannelWindow</name>
     <message>
         <source>Channel</source>
@@ -44,6 +63,103 @@
     <message>
         <source>[START]Debug mod is working,Waiting to record</source>
         <translation>[START]Debug-Modus aktiv, warte auf Einträge</translation>
+    </message>
+</context>
+<context>
+    <name>DelAlert</name>
+    <message>
+        <source>Delete Device</source>
+        <translation>Gerät löschen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Confirm</source>
+        <translation>Bestätigen</translation>
+    </message>
+</context>
+<context>
+    <name>Dev</name>
+    <message>
+        <source>Network Error</source>
+        <translation>Netzwerkfehler</translation>
+    </message>
+    <message>
+        <source>This version loads no devices from the cloud yet.</source>
+        <translation>Diese Version lädt noch keine Geräte aus der Cloud.</translation>
+    </message>
+    <message>
+        <source>[Unknown:</source>
+        <translation>[Unbekannt:</translation>
+    </message>
+</context>
+<context>
+    <name>DevMenu</name>
+    <message>
+        <source>Play All</source>
+        <translation>Alle abspielen</translation>
+    </message>
+    <message>
+        <source>Stop All</source>
+        <translation>Alle stoppen</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Abspielen</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Stoppen</translation>
+    </message>
+    <message>
+        <source>HD</source>
+        <translation>HD</translation>
+    </message>
+    <message>
+        <source>SD</source>
+        <translation>SD</translation>
+    </message>
+    <message>
+        <source>Synchronize Timeline</source>
+        <translation>Zeitleiste synchronisieren</translation>
+    </message>
+    <message>
+        <source>Audio Get</source>
+        <translation>Ton ein</translation>
+    </message>
+    <message>
+        <source>Not part of this version yet</source>
+        <translation>Noch nicht Teil dieser Version</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Ton aus</translation>
+    </message>
+    <message>
+        <source>Send Voice</source>
+        <translation>Sprechen</translation>
+    </message>
+    <message>
+        <source>Edit Device</source>
+        <translation>Gerät bearbeiten</translation>
+    </message>
+    <message>
+        <source>Reset Connect</source>
+        <translation>Verbindung zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Record Folder</source>
+        <translation>Aufnahmeordner</translation>
+    </message>
+    <message>
+        <source>Screenshot Folder</source>
+        <translation>Ordner für Schnappschüsse</translation>
+    </message>
+    <message>
+        <source>Delete Device</source>
+        <translation>Gerät löschen</translation>
     </message>
 </context>
 <context>
@@ -770,6 +886,13 @@
     </message>
 </context>
 <context>
+    <name>EscAlert</name>
+    <message>
+        <source>Press ESC to exit the full screen</source>
+        <translation>Mit ESC das Vollbild verlassen</translation>
+    </message>
+</context>
+<context>
     <name>GetMsg</name>
     <message>
         <source>no record has been found</source>
@@ -840,6 +963,17 @@
     <message>
         <source>no record has been found</source>
         <translation>Es wurde keine Aufzeichnung gefunden</translation>
+    </message>
+</context>
+<context>
+    <name>LabelFoldBtn</name>
+    <message>
+        <source>Fold</source>
+        <translation>Einklappen</translation>
+    </message>
+    <message>
+        <source>Unfold</source>
+        <translation>Ausklappen</translation>
     </message>
 </context>
 <context>
@@ -927,6 +1061,81 @@
         <source>Restore</source>
         <translation>Wiederherstellen</translation>
     </message>
+    <message>
+        <source>Live</source>
+        <translation>Live</translation>
+    </message>
+    <message>
+        <source>Not part of this version yet</source>
+        <translation>Noch nicht Teil dieser Version</translation>
+    </message>
+    <message>
+        <source>Playback</source>
+        <translation>Wiedergabe</translation>
+    </message>
+    <message>
+        <source>Control Panel</source>
+        <translation>Systemsteuerung</translation>
+    </message>
+    <message>
+        <source>Device List</source>
+        <translation>Geräteliste</translation>
+    </message>
+    <message>
+        <source>PTZ Control</source>
+        <translation>PTZ-Steuerung</translation>
+    </message>
+    <message>
+        <source>System Info</source>
+        <translation>Systeminfo</translation>
+    </message>
+    <message>
+        <source>Page:</source>
+        <translation>Seite:</translation>
+    </message>
+    <message>
+        <source>,Total:</source>
+        <translation>,Gesamt:</translation>
+    </message>
+    <message>
+        <source>[Unselected]</source>
+        <translation>[Nicht ausgewählt]</translation>
+    </message>
+</context>
+<context>
+    <name>MenuDevList</name>
+    <message>
+        <source>Search</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>Aktualisieren</translation>
+    </message>
+    <message>
+        <source>Drop down to load more</source>
+        <translation>Für mehr nach unten ziehen</translation>
+    </message>
+    <message>
+        <source>Not part of this version yet</source>
+        <translation>Noch nicht Teil dieser Version</translation>
+    </message>
+    <message>
+        <source>Add Device</source>
+        <translation>Gerät hinzufügen</translation>
+    </message>
+    <message>
+        <source>No device matches the search</source>
+        <translation>Kein Gerät passt zur Suche</translation>
+    </message>
+    <message>
+        <source>The local list is always up to date</source>
+        <translation>Die lokale Liste ist immer aktuell</translation>
+    </message>
+    <message>
+        <source>No devices yet. The user&apos;s guide tells how to add the first one.</source>
+        <translation>Noch keine Geräte. Das Benutzerhandbuch erklärt, wie das erste hinzugefügt wird.</translation>
+    </message>
 </context>
 <context>
     <name>PageBtn</name>
@@ -937,6 +1146,43 @@
     <message>
         <source>Next Page</source>
         <translation>Nächste Seite</translation>
+    </message>
+</context>
+<context>
+    <name>PlayBtn</name>
+    <message>
+        <source>Stop</source>
+        <translation>Stoppen</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Abspielen</translation>
+    </message>
+</context>
+<context>
+    <name>ReopenAlert</name>
+    <message>
+        <source>Do you want to reload the channel that was opened when it was last closed</source>
+        <translation>Sollen die Kanäle wieder geöffnet werden, die beim letzten Schließen offen waren?</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Confirm</source>
+        <translation>Bestätigen</translation>
+    </message>
+</context>
+<context>
+    <name>ScreenShotAlert</name>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>Kanal</translation>
     </message>
 </context>
 <context>

@@ -29,6 +29,25 @@
     </message>
 </context>
 <context>
+    <name>Alert</name>
+    <message>
+        <source>Error Code:</source>
+        <translation>Error Code:</translation>
+    </message>
+    <message>
+        <source>Device:</source>
+        <translation>Device:</translation>
+    </message>
+    <message>
+        <source>Information:</source>
+        <translation>Information:</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Close</translation>
+    </message>
+</context>
+<context>
     <name>ChannelWindow</name>
     <message>
         <source>Channel</source>
@@ -44,6 +63,103 @@
     <message>
         <source>[START]Debug mod is working,Waiting to record</source>
         <translation>[START]Debug mod is working,Waiting to record</translation>
+    </message>
+</context>
+<context>
+    <name>DelAlert</name>
+    <message>
+        <source>Delete Device</source>
+        <translation>Delete Device</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Confirm</source>
+        <translation>Confirm</translation>
+    </message>
+</context>
+<context>
+    <name>Dev</name>
+    <message>
+        <source>Network Error</source>
+        <translation>Network Error</translation>
+    </message>
+    <message>
+        <source>This version loads no devices from the cloud yet.</source>
+        <translation>This version loads no devices from the cloud yet.</translation>
+    </message>
+    <message>
+        <source>[Unknown:</source>
+        <translation>[Unknown:</translation>
+    </message>
+</context>
+<context>
+    <name>DevMenu</name>
+    <message>
+        <source>Play All</source>
+        <translation>Play All</translation>
+    </message>
+    <message>
+        <source>Stop All</source>
+        <translation>Stop All</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Play</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Stop</translation>
+    </message>
+    <message>
+        <source>HD</source>
+        <translation>HD</translation>
+    </message>
+    <message>
+        <source>SD</source>
+        <translation>SD</translation>
+    </message>
+    <message>
+        <source>Synchronize Timeline</source>
+        <translation>Synchronize Timeline</translation>
+    </message>
+    <message>
+        <source>Audio Get</source>
+        <translation>Audio Get</translation>
+    </message>
+    <message>
+        <source>Not part of this version yet</source>
+        <translation>Not part of this version yet</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Mute</translation>
+    </message>
+    <message>
+        <source>Send Voice</source>
+        <translation>Send Voice</translation>
+    </message>
+    <message>
+        <source>Edit Device</source>
+        <translation>Edit Device</translation>
+    </message>
+    <message>
+        <source>Reset Connect</source>
+        <translation>Reset Connect</translation>
+    </message>
+    <message>
+        <source>Record Folder</source>
+        <translation>Record Folder</translation>
+    </message>
+    <message>
+        <source>Screenshot Folder</source>
+        <translation>Screenshot Folder</translation>
+    </message>
+    <message>
+        <source>Delete Device</source>
+        <translation>Delete Device</translation>
     </message>
 </context>
 <context>
@@ -770,6 +886,13 @@
     </message>
 </context>
 <context>
+    <name>EscAlert</name>
+    <message>
+        <source>Press ESC to exit the full screen</source>
+        <translation>Press ESC to exit the full screen</translation>
+    </message>
+</context>
+<context>
     <name>GetMsg</name>
     <message>
         <source>no record has been found</source>
@@ -840,6 +963,17 @@
     <message>
         <source>no record has been found</source>
         <translation>no record has been found</translation>
+    </message>
+</context>
+<context>
+    <name>LabelFoldBtn</name>
+    <message>
+        <source>Fold</source>
+        <translation>Fold</translation>
+    </message>
+    <message>
+        <source>Unfold</source>
+        <translation>Unfold</translation>
     </message>
 </context>
 <context>
@@ -927,6 +1061,81 @@
         <source>Restore</source>
         <translation>Restore</translation>
     </message>
+    <message>
+        <source>Live</source>
+        <translation>Live</translation>
+    </message>
+    <message>
+        <source>Not part of this version yet</source>
+        <translation>Not part of this version yet</translation>
+    </message>
+    <message>
+        <source>Playback</source>
+        <translation>Playback</translation>
+    </message>
+    <message>
+        <source>Control Panel</source>
+        <translation>Control Panel</translation>
+    </message>
+    <message>
+        <source>Device List</source>
+        <translation>Device List</translation>
+    </message>
+    <message>
+        <source>PTZ Control</source>
+        <translation>PTZ Control</translation>
+    </message>
+    <message>
+        <source>System Info</source>
+        <translation>System Info</translation>
+    </message>
+    <message>
+        <source>Page:</source>
+        <translation>Page:</translation>
+    </message>
+    <message>
+        <source>,Total:</source>
+        <translation>,Total:</translation>
+    </message>
+    <message>
+        <source>[Unselected]</source>
+        <translation>[Unselected]</translation>
+    </message>
+</context>
+<context>
+    <name>MenuDevList</name>
+    <message>
+        <source>Search</source>
+        <translation>Search</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>Refresh</translation>
+    </message>
+    <message>
+        <source>Drop down to load more</source>
+        <translation>Drop down to load more</translation>
+    </message>
+    <message>
+        <source>Not part of this version yet</source>
+        <translation>Not part of this version yet</translation>
+    </message>
+    <message>
+        <source>Add Device</source>
+        <translation>Add Device</translation>
+    </message>
+    <message>
+        <source>No device matches the search</source>
+        <translation>No device matches the search</translation>
+    </message>
+    <message>
+        <source>The local list is always up to date</source>
+        <translation>The local list is always up to date</translation>
+    </message>
+    <message>
+        <source>No devices yet. The user&apos;s guide tells how to add the first one.</source>
+        <translation>No devices yet. The user&apos;s guide tells how to add the first one.</translation>
+    </message>
 </context>
 <context>
     <name>PageBtn</name>
@@ -937,6 +1146,43 @@
     <message>
         <source>Next Page</source>
         <translation>Next Page</translation>
+    </message>
+</context>
+<context>
+    <name>PlayBtn</name>
+    <message>
+        <source>Stop</source>
+        <translation>Stop</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Play</translation>
+    </message>
+</context>
+<context>
+    <name>ReopenAlert</name>
+    <message>
+        <source>Do you want to reload the channel that was opened when it was last closed</source>
+        <translation>Do you want to reload the channel that was opened when it was last closed</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Confirm</source>
+        <translation>Confirm</translation>
+    </message>
+</context>
+<context>
+    <name>ScreenShotAlert</name>
+    <message>
+        <source>Close</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>Channel</translation>
     </message>
 </context>
 <context>

@@ -29,6 +29,25 @@
     </message>
 </context>
 <context>
+    <name>Alert</name>
+    <message>
+        <source>Error Code:</source>
+        <translation>Código de error:</translation>
+    </message>
+    <message>
+        <source>Device:</source>
+        <translation>Dispositivo:</translation>
+    </message>
+    <message>
+        <source>Information:</source>
+        <translation>Información:</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+</context>
+<context>
     <name>ChannelWindow</name>
     <message>
         <source>Channel</source>
@@ -44,6 +63,103 @@
     <message>
         <source>[START]Debug mod is working,Waiting to record</source>
         <translation>[START]Modo debug activo, a la espera de datos que registrar</translation>
+    </message>
+</context>
+<context>
+    <name>DelAlert</name>
+    <message>
+        <source>Delete Device</source>
+        <translation>Eliminar dispositivo</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Confirm</source>
+        <translation>Confirmar</translation>
+    </message>
+</context>
+<context>
+    <name>Dev</name>
+    <message>
+        <source>Network Error</source>
+        <translation>Error de red</translation>
+    </message>
+    <message>
+        <source>This version loads no devices from the cloud yet.</source>
+        <translation>Esta versión aún no carga dispositivos de la nube.</translation>
+    </message>
+    <message>
+        <source>[Unknown:</source>
+        <translation>[Desconocido:</translation>
+    </message>
+</context>
+<context>
+    <name>DevMenu</name>
+    <message>
+        <source>Play All</source>
+        <translation>Reproducir todo</translation>
+    </message>
+    <message>
+        <source>Stop All</source>
+        <translation>Detener todo</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Reproducir</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Detener</translation>
+    </message>
+    <message>
+        <source>HD</source>
+        <translation>HD</translation>
+    </message>
+    <message>
+        <source>SD</source>
+        <translation>SD</translation>
+    </message>
+    <message>
+        <source>Synchronize Timeline</source>
+        <translation>Sincronizar línea de tiempo</translation>
+    </message>
+    <message>
+        <source>Audio Get</source>
+        <translation>Activar audio</translation>
+    </message>
+    <message>
+        <source>Not part of this version yet</source>
+        <translation>Aún no incluido en esta versión</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Silenciar</translation>
+    </message>
+    <message>
+        <source>Send Voice</source>
+        <translation>Hablar</translation>
+    </message>
+    <message>
+        <source>Edit Device</source>
+        <translation>Editar dispositivo</translation>
+    </message>
+    <message>
+        <source>Reset Connect</source>
+        <translation>Restablecer conexión</translation>
+    </message>
+    <message>
+        <source>Record Folder</source>
+        <translation>Carpeta de grabaciones</translation>
+    </message>
+    <message>
+        <source>Screenshot Folder</source>
+        <translation>Carpeta de capturas</translation>
+    </message>
+    <message>
+        <source>Delete Device</source>
+        <translation>Eliminar dispositivo</translation>
     </message>
 </context>
 <context>
@@ -770,6 +886,13 @@
     </message>
 </context>
 <context>
+    <name>EscAlert</name>
+    <message>
+        <source>Press ESC to exit the full screen</source>
+        <translation>Pulse ESC para salir de la pantalla completa</translation>
+    </message>
+</context>
+<context>
     <name>GetMsg</name>
     <message>
         <source>no record has been found</source>
@@ -840,6 +963,17 @@
     <message>
         <source>no record has been found</source>
         <translation>No se ha encontrado ninguna grabación</translation>
+    </message>
+</context>
+<context>
+    <name>LabelFoldBtn</name>
+    <message>
+        <source>Fold</source>
+        <translation>Plegar</translation>
+    </message>
+    <message>
+        <source>Unfold</source>
+        <translation>Desplegar</translation>
     </message>
 </context>
 <context>
@@ -927,6 +1061,81 @@
         <source>Restore</source>
         <translation>Restaurar</translation>
     </message>
+    <message>
+        <source>Live</source>
+        <translation>En vivo</translation>
+    </message>
+    <message>
+        <source>Not part of this version yet</source>
+        <translation>Aún no incluido en esta versión</translation>
+    </message>
+    <message>
+        <source>Playback</source>
+        <translation>Reproducción</translation>
+    </message>
+    <message>
+        <source>Control Panel</source>
+        <translation>Panel de control</translation>
+    </message>
+    <message>
+        <source>Device List</source>
+        <translation>Lista de dispositivos</translation>
+    </message>
+    <message>
+        <source>PTZ Control</source>
+        <translation>Control PTZ</translation>
+    </message>
+    <message>
+        <source>System Info</source>
+        <translation>Información del sistema</translation>
+    </message>
+    <message>
+        <source>Page:</source>
+        <translation>Página:</translation>
+    </message>
+    <message>
+        <source>,Total:</source>
+        <translation>,Total:</translation>
+    </message>
+    <message>
+        <source>[Unselected]</source>
+        <translation>[Sin selección]</translation>
+    </message>
+</context>
+<context>
+    <name>MenuDevList</name>
+    <message>
+        <source>Search</source>
+        <translation>Buscar</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>Actualizar</translation>
+    </message>
+    <message>
+        <source>Drop down to load more</source>
+        <translation>Desplácese para cargar más</translation>
+    </message>
+    <message>
+        <source>Not part of this version yet</source>
+        <translation>Aún no incluido en esta versión</translation>
+    </message>
+    <message>
+        <source>Add Device</source>
+        <translation>Añadir dispositivo</translation>
+    </message>
+    <message>
+        <source>No device matches the search</source>
+        <translation>Ningún dispositivo coincide con la búsqueda</translation>
+    </message>
+    <message>
+        <source>The local list is always up to date</source>
+        <translation>La lista local siempre está actualizada</translation>
+    </message>
+    <message>
+        <source>No devices yet. The user&apos;s guide tells how to add the first one.</source>
+        <translation>Aún no hay dispositivos. La guía del usuario explica cómo añadir el primero.</translation>
+    </message>
 </context>
 <context>
     <name>PageBtn</name>
@@ -937,6 +1146,43 @@
     <message>
         <source>Next Page</source>
         <translation>Página siguiente</translation>
+    </message>
+</context>
+<context>
+    <name>PlayBtn</name>
+    <message>
+        <source>Stop</source>
+        <translation>Detener</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Reproducir</translation>
+    </message>
+</context>
+<context>
+    <name>ReopenAlert</name>
+    <message>
+        <source>Do you want to reload the channel that was opened when it was last closed</source>
+        <translation>¿Desea volver a abrir los canales que estaban abiertos al cerrar la última vez?</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Confirm</source>
+        <translation>Confirmar</translation>
+    </message>
+</context>
+<context>
+    <name>ScreenShotAlert</name>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>Canal</translation>
     </message>
 </context>
 <context>

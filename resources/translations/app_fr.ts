@@ -29,6 +29,25 @@
     </message>
 </context>
 <context>
+    <name>Alert</name>
+    <message>
+        <source>Error Code:</source>
+        <translation>Code d’erreur :</translation>
+    </message>
+    <message>
+        <source>Device:</source>
+        <translation>Appareil :</translation>
+    </message>
+    <message>
+        <source>Information:</source>
+        <translation>Information :</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+</context>
+<context>
     <name>ChannelWindow</name>
     <message>
         <source>Channel</source>
@@ -44,6 +63,103 @@
     <message>
         <source>[START]Debug mod is working,Waiting to record</source>
         <translation>[START]Mode debug actif, en attente de données à enregistrer</translation>
+    </message>
+</context>
+<context>
+    <name>DelAlert</name>
+    <message>
+        <source>Delete Device</source>
+        <translation>Supprimer l’appareil</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Confirm</source>
+        <translation>Confirmer</translation>
+    </message>
+</context>
+<context>
+    <name>Dev</name>
+    <message>
+        <source>Network Error</source>
+        <translation>Erreur réseau</translation>
+    </message>
+    <message>
+        <source>This version loads no devices from the cloud yet.</source>
+        <translation>Cette version ne charge pas encore d’appareils depuis le cloud.</translation>
+    </message>
+    <message>
+        <source>[Unknown:</source>
+        <translation>[Inconnu :</translation>
+    </message>
+</context>
+<context>
+    <name>DevMenu</name>
+    <message>
+        <source>Play All</source>
+        <translation>Tout lire</translation>
+    </message>
+    <message>
+        <source>Stop All</source>
+        <translation>Tout arrêter</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Lire</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Arrêter</translation>
+    </message>
+    <message>
+        <source>HD</source>
+        <translation>HD</translation>
+    </message>
+    <message>
+        <source>SD</source>
+        <translation>SD</translation>
+    </message>
+    <message>
+        <source>Synchronize Timeline</source>
+        <translation>Synchroniser la chronologie</translation>
+    </message>
+    <message>
+        <source>Audio Get</source>
+        <translation>Activer le son</translation>
+    </message>
+    <message>
+        <source>Not part of this version yet</source>
+        <translation>Pas encore dans cette version</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Couper le son</translation>
+    </message>
+    <message>
+        <source>Send Voice</source>
+        <translation>Parler</translation>
+    </message>
+    <message>
+        <source>Edit Device</source>
+        <translation>Modifier l’appareil</translation>
+    </message>
+    <message>
+        <source>Reset Connect</source>
+        <translation>Réinitialiser la connexion</translation>
+    </message>
+    <message>
+        <source>Record Folder</source>
+        <translation>Dossier d’enregistrement</translation>
+    </message>
+    <message>
+        <source>Screenshot Folder</source>
+        <translation>Dossier des captures</translation>
+    </message>
+    <message>
+        <source>Delete Device</source>
+        <translation>Supprimer l’appareil</translation>
     </message>
 </context>
 <context>
@@ -770,6 +886,13 @@
     </message>
 </context>
 <context>
+    <name>EscAlert</name>
+    <message>
+        <source>Press ESC to exit the full screen</source>
+        <translation>Appuyez sur Échap pour quitter le plein écran</translation>
+    </message>
+</context>
+<context>
     <name>GetMsg</name>
     <message>
         <source>no record has been found</source>
@@ -840,6 +963,17 @@
     <message>
         <source>no record has been found</source>
         <translation>Aucun enregistrement n&apos;a été trouvé</translation>
+    </message>
+</context>
+<context>
+    <name>LabelFoldBtn</name>
+    <message>
+        <source>Fold</source>
+        <translation>Replier</translation>
+    </message>
+    <message>
+        <source>Unfold</source>
+        <translation>Déplier</translation>
     </message>
 </context>
 <context>
@@ -927,6 +1061,81 @@
         <source>Restore</source>
         <translation>Restaurer</translation>
     </message>
+    <message>
+        <source>Live</source>
+        <translation>Direct</translation>
+    </message>
+    <message>
+        <source>Not part of this version yet</source>
+        <translation>Pas encore dans cette version</translation>
+    </message>
+    <message>
+        <source>Playback</source>
+        <translation>Relecture</translation>
+    </message>
+    <message>
+        <source>Control Panel</source>
+        <translation>Panneau de contrôle</translation>
+    </message>
+    <message>
+        <source>Device List</source>
+        <translation>Liste des appareils</translation>
+    </message>
+    <message>
+        <source>PTZ Control</source>
+        <translation>Contrôle PTZ</translation>
+    </message>
+    <message>
+        <source>System Info</source>
+        <translation>Infos système</translation>
+    </message>
+    <message>
+        <source>Page:</source>
+        <translation>Page :</translation>
+    </message>
+    <message>
+        <source>,Total:</source>
+        <translation>,Total :</translation>
+    </message>
+    <message>
+        <source>[Unselected]</source>
+        <translation>[Aucune sélection]</translation>
+    </message>
+</context>
+<context>
+    <name>MenuDevList</name>
+    <message>
+        <source>Search</source>
+        <translation>Rechercher</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>Actualiser</translation>
+    </message>
+    <message>
+        <source>Drop down to load more</source>
+        <translation>Faites défiler pour en charger plus</translation>
+    </message>
+    <message>
+        <source>Not part of this version yet</source>
+        <translation>Pas encore dans cette version</translation>
+    </message>
+    <message>
+        <source>Add Device</source>
+        <translation>Ajouter un appareil</translation>
+    </message>
+    <message>
+        <source>No device matches the search</source>
+        <translation>Aucun appareil ne correspond à la recherche</translation>
+    </message>
+    <message>
+        <source>The local list is always up to date</source>
+        <translation>La liste locale est toujours à jour</translation>
+    </message>
+    <message>
+        <source>No devices yet. The user&apos;s guide tells how to add the first one.</source>
+        <translation>Aucun appareil pour l’instant. Le guide de l’utilisateur explique comment ajouter le premier.</translation>
+    </message>
 </context>
 <context>
     <name>PageBtn</name>
@@ -937,6 +1146,43 @@
     <message>
         <source>Next Page</source>
         <translation>Page suivante</translation>
+    </message>
+</context>
+<context>
+    <name>PlayBtn</name>
+    <message>
+        <source>Stop</source>
+        <translation>Arrêter</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Lire</translation>
+    </message>
+</context>
+<context>
+    <name>ReopenAlert</name>
+    <message>
+        <source>Do you want to reload the channel that was opened when it was last closed</source>
+        <translation>Voulez-vous rouvrir les canaux ouverts lors de la dernière fermeture ?</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Confirm</source>
+        <translation>Confirmer</translation>
+    </message>
+</context>
+<context>
+    <name>ScreenShotAlert</name>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>Canal</translation>
     </message>
 </context>
 <context>

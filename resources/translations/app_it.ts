@@ -29,6 +29,25 @@
     </message>
 </context>
 <context>
+    <name>Alert</name>
+    <message>
+        <source>Error Code:</source>
+        <translation>Codice di errore:</translation>
+    </message>
+    <message>
+        <source>Device:</source>
+        <translation>Dispositivo:</translation>
+    </message>
+    <message>
+        <source>Information:</source>
+        <translation>Informazioni:</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
+</context>
+<context>
     <name>ChannelWindow</name>
     <message>
         <source>Channel</source>
@@ -44,6 +63,103 @@
     <message>
         <source>[START]Debug mod is working,Waiting to record</source>
         <translation>[START]Modalità debug attiva, in attesa di dati da registrare</translation>
+    </message>
+</context>
+<context>
+    <name>DelAlert</name>
+    <message>
+        <source>Delete Device</source>
+        <translation>Elimina dispositivo</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>Confirm</source>
+        <translation>Conferma</translation>
+    </message>
+</context>
+<context>
+    <name>Dev</name>
+    <message>
+        <source>Network Error</source>
+        <translation>Errore di rete</translation>
+    </message>
+    <message>
+        <source>This version loads no devices from the cloud yet.</source>
+        <translation>Questa versione non carica ancora dispositivi dal cloud.</translation>
+    </message>
+    <message>
+        <source>[Unknown:</source>
+        <translation>[Sconosciuto:</translation>
+    </message>
+</context>
+<context>
+    <name>DevMenu</name>
+    <message>
+        <source>Play All</source>
+        <translation>Riproduci tutti</translation>
+    </message>
+    <message>
+        <source>Stop All</source>
+        <translation>Ferma tutti</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Riproduci</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Ferma</translation>
+    </message>
+    <message>
+        <source>HD</source>
+        <translation>HD</translation>
+    </message>
+    <message>
+        <source>SD</source>
+        <translation>SD</translation>
+    </message>
+    <message>
+        <source>Synchronize Timeline</source>
+        <translation>Sincronizza la linea temporale</translation>
+    </message>
+    <message>
+        <source>Audio Get</source>
+        <translation>Attiva audio</translation>
+    </message>
+    <message>
+        <source>Not part of this version yet</source>
+        <translation>Non ancora in questa versione</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Disattiva audio</translation>
+    </message>
+    <message>
+        <source>Send Voice</source>
+        <translation>Parla</translation>
+    </message>
+    <message>
+        <source>Edit Device</source>
+        <translation>Modifica dispositivo</translation>
+    </message>
+    <message>
+        <source>Reset Connect</source>
+        <translation>Reimposta connessione</translation>
+    </message>
+    <message>
+        <source>Record Folder</source>
+        <translation>Cartella registrazioni</translation>
+    </message>
+    <message>
+        <source>Screenshot Folder</source>
+        <translation>Cartella istantanee</translation>
+    </message>
+    <message>
+        <source>Delete Device</source>
+        <translation>Elimina dispositivo</translation>
     </message>
 </context>
 <context>
@@ -770,6 +886,13 @@
     </message>
 </context>
 <context>
+    <name>EscAlert</name>
+    <message>
+        <source>Press ESC to exit the full screen</source>
+        <translation>Premi ESC per uscire dallo schermo intero</translation>
+    </message>
+</context>
+<context>
     <name>GetMsg</name>
     <message>
         <source>no record has been found</source>
@@ -840,6 +963,17 @@
     <message>
         <source>no record has been found</source>
         <translation>Nessuna registrazione trovata</translation>
+    </message>
+</context>
+<context>
+    <name>LabelFoldBtn</name>
+    <message>
+        <source>Fold</source>
+        <translation>Comprimi</translation>
+    </message>
+    <message>
+        <source>Unfold</source>
+        <translation>Espandi</translation>
     </message>
 </context>
 <context>
@@ -927,6 +1061,81 @@
         <source>Restore</source>
         <translation>Ripristina</translation>
     </message>
+    <message>
+        <source>Live</source>
+        <translation>Dal vivo</translation>
+    </message>
+    <message>
+        <source>Not part of this version yet</source>
+        <translation>Non ancora in questa versione</translation>
+    </message>
+    <message>
+        <source>Playback</source>
+        <translation>Riproduzione</translation>
+    </message>
+    <message>
+        <source>Control Panel</source>
+        <translation>Pannello di controllo</translation>
+    </message>
+    <message>
+        <source>Device List</source>
+        <translation>Elenco dispositivi</translation>
+    </message>
+    <message>
+        <source>PTZ Control</source>
+        <translation>Controllo PTZ</translation>
+    </message>
+    <message>
+        <source>System Info</source>
+        <translation>Info sistema</translation>
+    </message>
+    <message>
+        <source>Page:</source>
+        <translation>Pagina:</translation>
+    </message>
+    <message>
+        <source>,Total:</source>
+        <translation>,Totale:</translation>
+    </message>
+    <message>
+        <source>[Unselected]</source>
+        <translation>[Nessuna selezione]</translation>
+    </message>
+</context>
+<context>
+    <name>MenuDevList</name>
+    <message>
+        <source>Search</source>
+        <translation>Cerca</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>Aggiorna</translation>
+    </message>
+    <message>
+        <source>Drop down to load more</source>
+        <translation>Scorri per caricarne altri</translation>
+    </message>
+    <message>
+        <source>Not part of this version yet</source>
+        <translation>Non ancora in questa versione</translation>
+    </message>
+    <message>
+        <source>Add Device</source>
+        <translation>Aggiungi dispositivo</translation>
+    </message>
+    <message>
+        <source>No device matches the search</source>
+        <translation>Nessun dispositivo corrisponde alla ricerca</translation>
+    </message>
+    <message>
+        <source>The local list is always up to date</source>
+        <translation>L’elenco locale è sempre aggiornato</translation>
+    </message>
+    <message>
+        <source>No devices yet. The user&apos;s guide tells how to add the first one.</source>
+        <translation>Ancora nessun dispositivo. Il manuale spiega come aggiungere il primo.</translation>
+    </message>
 </context>
 <context>
     <name>PageBtn</name>
@@ -937,6 +1146,43 @@
     <message>
         <source>Next Page</source>
         <translation>Pagina successiva</translation>
+    </message>
+</context>
+<context>
+    <name>PlayBtn</name>
+    <message>
+        <source>Stop</source>
+        <translation>Ferma</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Riproduci</translation>
+    </message>
+</context>
+<context>
+    <name>ReopenAlert</name>
+    <message>
+        <source>Do you want to reload the channel that was opened when it was last closed</source>
+        <translation>Riaprire i canali che erano aperti all’ultima chiusura?</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>Confirm</source>
+        <translation>Conferma</translation>
+    </message>
+</context>
+<context>
+    <name>ScreenShotAlert</name>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>Canale</translation>
     </message>
 </context>
 <context>

@@ -29,6 +29,25 @@
     </message>
 </context>
 <context>
+    <name>Alert</name>
+    <message>
+        <source>Error Code:</source>
+        <translation>エラーコード:</translation>
+    </message>
+    <message>
+        <source>Device:</source>
+        <translation>デバイス:</translation>
+    </message>
+    <message>
+        <source>Information:</source>
+        <translation>情報:</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+</context>
+<context>
     <name>ChannelWindow</name>
     <message>
         <source>Channel</source>
@@ -44,6 +63,103 @@
     <message>
         <source>[START]Debug mod is working,Waiting to record</source>
         <translation>[START]デバッグモードで動作中です。記録を待機しています</translation>
+    </message>
+</context>
+<context>
+    <name>DelAlert</name>
+    <message>
+        <source>Delete Device</source>
+        <translation>デバイスを削除</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Confirm</source>
+        <translation>確認</translation>
+    </message>
+</context>
+<context>
+    <name>Dev</name>
+    <message>
+        <source>Network Error</source>
+        <translation>通信エラー</translation>
+    </message>
+    <message>
+        <source>This version loads no devices from the cloud yet.</source>
+        <translation>このバージョンはまだクラウドからデバイスを読み込みません。</translation>
+    </message>
+    <message>
+        <source>[Unknown:</source>
+        <translation>[不明:</translation>
+    </message>
+</context>
+<context>
+    <name>DevMenu</name>
+    <message>
+        <source>Play All</source>
+        <translation>すべて再生</translation>
+    </message>
+    <message>
+        <source>Stop All</source>
+        <translation>すべて停止</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>再生</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>HD</source>
+        <translation>HD</translation>
+    </message>
+    <message>
+        <source>SD</source>
+        <translation>SD</translation>
+    </message>
+    <message>
+        <source>Synchronize Timeline</source>
+        <translation>タイムラインを同期</translation>
+    </message>
+    <message>
+        <source>Audio Get</source>
+        <translation>音声オン</translation>
+    </message>
+    <message>
+        <source>Not part of this version yet</source>
+        <translation>このバージョンにはまだありません</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>ミュート</translation>
+    </message>
+    <message>
+        <source>Send Voice</source>
+        <translation>音声送信</translation>
+    </message>
+    <message>
+        <source>Edit Device</source>
+        <translation>デバイスを編集</translation>
+    </message>
+    <message>
+        <source>Reset Connect</source>
+        <translation>接続をリセット</translation>
+    </message>
+    <message>
+        <source>Record Folder</source>
+        <translation>録画フォルダー</translation>
+    </message>
+    <message>
+        <source>Screenshot Folder</source>
+        <translation>スナップショットフォルダー</translation>
+    </message>
+    <message>
+        <source>Delete Device</source>
+        <translation>デバイスを削除</translation>
     </message>
 </context>
 <context>
@@ -770,6 +886,13 @@
     </message>
 </context>
 <context>
+    <name>EscAlert</name>
+    <message>
+        <source>Press ESC to exit the full screen</source>
+        <translation>ESCキーで全画面表示を終了</translation>
+    </message>
+</context>
+<context>
     <name>GetMsg</name>
     <message>
         <source>no record has been found</source>
@@ -840,6 +963,17 @@
     <message>
         <source>no record has been found</source>
         <translation>録画が見つかりませんでした</translation>
+    </message>
+</context>
+<context>
+    <name>LabelFoldBtn</name>
+    <message>
+        <source>Fold</source>
+        <translation>折りたたむ</translation>
+    </message>
+    <message>
+        <source>Unfold</source>
+        <translation>展開</translation>
     </message>
 </context>
 <context>
@@ -927,6 +1061,81 @@
         <source>Restore</source>
         <translation>元に戻す</translation>
     </message>
+    <message>
+        <source>Live</source>
+        <translation>ライブ</translation>
+    </message>
+    <message>
+        <source>Not part of this version yet</source>
+        <translation>このバージョンにはまだありません</translation>
+    </message>
+    <message>
+        <source>Playback</source>
+        <translation>再生</translation>
+    </message>
+    <message>
+        <source>Control Panel</source>
+        <translation>コントロールパネル</translation>
+    </message>
+    <message>
+        <source>Device List</source>
+        <translation>デバイス一覧</translation>
+    </message>
+    <message>
+        <source>PTZ Control</source>
+        <translation>PTZ操作</translation>
+    </message>
+    <message>
+        <source>System Info</source>
+        <translation>システム情報</translation>
+    </message>
+    <message>
+        <source>Page:</source>
+        <translation>ページ:</translation>
+    </message>
+    <message>
+        <source>,Total:</source>
+        <translation>、合計:</translation>
+    </message>
+    <message>
+        <source>[Unselected]</source>
+        <translation>[未選択]</translation>
+    </message>
+</context>
+<context>
+    <name>MenuDevList</name>
+    <message>
+        <source>Search</source>
+        <translation>検索</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>更新</translation>
+    </message>
+    <message>
+        <source>Drop down to load more</source>
+        <translation>下にスクロールして続きを読み込む</translation>
+    </message>
+    <message>
+        <source>Not part of this version yet</source>
+        <translation>このバージョンにはまだありません</translation>
+    </message>
+    <message>
+        <source>Add Device</source>
+        <translation>デバイスを追加</translation>
+    </message>
+    <message>
+        <source>No device matches the search</source>
+        <translation>検索に一致するデバイスはありません</translation>
+    </message>
+    <message>
+        <source>The local list is always up to date</source>
+        <translation>ローカルの一覧は常に最新です</translation>
+    </message>
+    <message>
+        <source>No devices yet. The user&apos;s guide tells how to add the first one.</source>
+        <translation>デバイスはまだありません。追加方法はユーザーガイドをご覧ください。</translation>
+    </message>
 </context>
 <context>
     <name>PageBtn</name>
@@ -937,6 +1146,43 @@
     <message>
         <source>Next Page</source>
         <translation>次のページ</translation>
+    </message>
+</context>
+<context>
+    <name>PlayBtn</name>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>再生</translation>
+    </message>
+</context>
+<context>
+    <name>ReopenAlert</name>
+    <message>
+        <source>Do you want to reload the channel that was opened when it was last closed</source>
+        <translation>前回終了時に開いていたチャンネルを再度開きますか</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Confirm</source>
+        <translation>確認</translation>
+    </message>
+</context>
+<context>
+    <name>ScreenShotAlert</name>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>チャンネル</translation>
     </message>
 </context>
 <context>

@@ -29,6 +29,25 @@
     </message>
 </context>
 <context>
+    <name>Alert</name>
+    <message>
+        <source>Error Code:</source>
+        <translation>Foutcode:</translation>
+    </message>
+    <message>
+        <source>Device:</source>
+        <translation>Apparaat:</translation>
+    </message>
+    <message>
+        <source>Information:</source>
+        <translation>Informatie:</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Sluiten</translation>
+    </message>
+</context>
+<context>
     <name>ChannelWindow</name>
     <message>
         <source>Channel</source>
@@ -44,6 +63,103 @@
     <message>
         <source>[START]Debug mod is working,Waiting to record</source>
         <translation>[START]Debugmodus actief, wachten op logregels</translation>
+    </message>
+</context>
+<context>
+    <name>DelAlert</name>
+    <message>
+        <source>Delete Device</source>
+        <translation>Apparaat verwijderen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuleren</translation>
+    </message>
+    <message>
+        <source>Confirm</source>
+        <translation>Bevestigen</translation>
+    </message>
+</context>
+<context>
+    <name>Dev</name>
+    <message>
+        <source>Network Error</source>
+        <translation>Netwerkfout</translation>
+    </message>
+    <message>
+        <source>This version loads no devices from the cloud yet.</source>
+        <translation>Deze versie laadt nog geen apparaten uit de cloud.</translation>
+    </message>
+    <message>
+        <source>[Unknown:</source>
+        <translation>[Onbekend:</translation>
+    </message>
+</context>
+<context>
+    <name>DevMenu</name>
+    <message>
+        <source>Play All</source>
+        <translation>Alles afspelen</translation>
+    </message>
+    <message>
+        <source>Stop All</source>
+        <translation>Alles stoppen</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Afspelen</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Stoppen</translation>
+    </message>
+    <message>
+        <source>HD</source>
+        <translation>HD</translation>
+    </message>
+    <message>
+        <source>SD</source>
+        <translation>SD</translation>
+    </message>
+    <message>
+        <source>Synchronize Timeline</source>
+        <translation>Tijdlijn synchroniseren</translation>
+    </message>
+    <message>
+        <source>Audio Get</source>
+        <translation>Geluid aan</translation>
+    </message>
+    <message>
+        <source>Not part of this version yet</source>
+        <translation>Nog niet in deze versie</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Dempen</translation>
+    </message>
+    <message>
+        <source>Send Voice</source>
+        <translation>Spreken</translation>
+    </message>
+    <message>
+        <source>Edit Device</source>
+        <translation>Apparaat bewerken</translation>
+    </message>
+    <message>
+        <source>Reset Connect</source>
+        <translation>Verbinding herstellen</translation>
+    </message>
+    <message>
+        <source>Record Folder</source>
+        <translation>Opnamemap</translation>
+    </message>
+    <message>
+        <source>Screenshot Folder</source>
+        <translation>Map met momentopnamen</translation>
+    </message>
+    <message>
+        <source>Delete Device</source>
+        <translation>Apparaat verwijderen</translation>
     </message>
 </context>
 <context>
@@ -770,6 +886,13 @@
     </message>
 </context>
 <context>
+    <name>EscAlert</name>
+    <message>
+        <source>Press ESC to exit the full screen</source>
+        <translation>Druk op ESC om het volledige scherm te verlaten</translation>
+    </message>
+</context>
+<context>
     <name>GetMsg</name>
     <message>
         <source>no record has been found</source>
@@ -840,6 +963,17 @@
     <message>
         <source>no record has been found</source>
         <translation>Er is geen opname gevonden</translation>
+    </message>
+</context>
+<context>
+    <name>LabelFoldBtn</name>
+    <message>
+        <source>Fold</source>
+        <translation>Inklappen</translation>
+    </message>
+    <message>
+        <source>Unfold</source>
+        <translation>Uitklappen</translation>
     </message>
 </context>
 <context>
@@ -927,6 +1061,81 @@
         <source>Restore</source>
         <translation>Herstellen</translation>
     </message>
+    <message>
+        <source>Live</source>
+        <translation>Live</translation>
+    </message>
+    <message>
+        <source>Not part of this version yet</source>
+        <translation>Nog niet in deze versie</translation>
+    </message>
+    <message>
+        <source>Playback</source>
+        <translation>Afspelen</translation>
+    </message>
+    <message>
+        <source>Control Panel</source>
+        <translation>Configuratiescherm</translation>
+    </message>
+    <message>
+        <source>Device List</source>
+        <translation>Apparatenlijst</translation>
+    </message>
+    <message>
+        <source>PTZ Control</source>
+        <translation>PTZ-bediening</translation>
+    </message>
+    <message>
+        <source>System Info</source>
+        <translation>Systeeminfo</translation>
+    </message>
+    <message>
+        <source>Page:</source>
+        <translation>Pagina:</translation>
+    </message>
+    <message>
+        <source>,Total:</source>
+        <translation>,Totaal:</translation>
+    </message>
+    <message>
+        <source>[Unselected]</source>
+        <translation>[Niets geselecteerd]</translation>
+    </message>
+</context>
+<context>
+    <name>MenuDevList</name>
+    <message>
+        <source>Search</source>
+        <translation>Zoeken</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>Vernieuwen</translation>
+    </message>
+    <message>
+        <source>Drop down to load more</source>
+        <translation>Scrol omlaag voor meer</translation>
+    </message>
+    <message>
+        <source>Not part of this version yet</source>
+        <translation>Nog niet in deze versie</translation>
+    </message>
+    <message>
+        <source>Add Device</source>
+        <translation>Apparaat toevoegen</translation>
+    </message>
+    <message>
+        <source>No device matches the search</source>
+        <translation>Geen apparaat komt overeen met de zoekopdracht</translation>
+    </message>
+    <message>
+        <source>The local list is always up to date</source>
+        <translation>De lokale lijst is altijd actueel</translation>
+    </message>
+    <message>
+        <source>No devices yet. The user&apos;s guide tells how to add the first one.</source>
+        <translation>Nog geen apparaten. De handleiding legt uit hoe u het eerste toevoegt.</translation>
+    </message>
 </context>
 <context>
     <name>PageBtn</name>
@@ -937,6 +1146,43 @@
     <message>
         <source>Next Page</source>
         <translation>Volgende pagina</translation>
+    </message>
+</context>
+<context>
+    <name>PlayBtn</name>
+    <message>
+        <source>Stop</source>
+        <translation>Stoppen</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Afspelen</translation>
+    </message>
+</context>
+<context>
+    <name>ReopenAlert</name>
+    <message>
+        <source>Do you want to reload the channel that was opened when it was last closed</source>
+        <translation>Wilt u de kanalen heropenen die bij het laatste afsluiten open waren?</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuleren</translation>
+    </message>
+    <message>
+        <source>Confirm</source>
+        <translation>Bevestigen</translation>
+    </message>
+</context>
+<context>
+    <name>ScreenShotAlert</name>
+    <message>
+        <source>Close</source>
+        <translation>Sluiten</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>Kanaal</translation>
     </message>
 </context>
 <context>

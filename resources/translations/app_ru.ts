@@ -29,6 +29,25 @@
     </message>
 </context>
 <context>
+    <name>Alert</name>
+    <message>
+        <source>Error Code:</source>
+        <translation>Код ошибки:</translation>
+    </message>
+    <message>
+        <source>Device:</source>
+        <translation>Устройство:</translation>
+    </message>
+    <message>
+        <source>Information:</source>
+        <translation>Сообщение:</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Закрыть</translation>
+    </message>
+</context>
+<context>
     <name>ChannelWindow</name>
     <message>
         <source>Channel</source>
@@ -44,6 +63,103 @@
     <message>
         <source>[START]Debug mod is working,Waiting to record</source>
         <translation>[START]Режим отладки включён, ожидание записей</translation>
+    </message>
+</context>
+<context>
+    <name>DelAlert</name>
+    <message>
+        <source>Delete Device</source>
+        <translation>Удалить устройство</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>Confirm</source>
+        <translation>Подтвердить</translation>
+    </message>
+</context>
+<context>
+    <name>Dev</name>
+    <message>
+        <source>Network Error</source>
+        <translation>Ошибка сети</translation>
+    </message>
+    <message>
+        <source>This version loads no devices from the cloud yet.</source>
+        <translation>Эта версия пока не загружает устройства из облака.</translation>
+    </message>
+    <message>
+        <source>[Unknown:</source>
+        <translation>[Неизвестно:</translation>
+    </message>
+</context>
+<context>
+    <name>DevMenu</name>
+    <message>
+        <source>Play All</source>
+        <translation>Воспроизвести все</translation>
+    </message>
+    <message>
+        <source>Stop All</source>
+        <translation>Остановить все</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Воспроизвести</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Остановить</translation>
+    </message>
+    <message>
+        <source>HD</source>
+        <translation>HD</translation>
+    </message>
+    <message>
+        <source>SD</source>
+        <translation>SD</translation>
+    </message>
+    <message>
+        <source>Synchronize Timeline</source>
+        <translation>Синхронизировать шкалу</translation>
+    </message>
+    <message>
+        <source>Audio Get</source>
+        <translation>Включить звук</translation>
+    </message>
+    <message>
+        <source>Not part of this version yet</source>
+        <translation>В этой версии пока нет</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Выключить звук</translation>
+    </message>
+    <message>
+        <source>Send Voice</source>
+        <translation>Говорить</translation>
+    </message>
+    <message>
+        <source>Edit Device</source>
+        <translation>Изменить устройство</translation>
+    </message>
+    <message>
+        <source>Reset Connect</source>
+        <translation>Сбросить соединение</translation>
+    </message>
+    <message>
+        <source>Record Folder</source>
+        <translation>Папка записей</translation>
+    </message>
+    <message>
+        <source>Screenshot Folder</source>
+        <translation>Папка снимков</translation>
+    </message>
+    <message>
+        <source>Delete Device</source>
+        <translation>Удалить устройство</translation>
     </message>
 </context>
 <context>
@@ -770,6 +886,13 @@
     </message>
 </context>
 <context>
+    <name>EscAlert</name>
+    <message>
+        <source>Press ESC to exit the full screen</source>
+        <translation>Нажмите ESC, чтобы выйти из полноэкранного режима</translation>
+    </message>
+</context>
+<context>
     <name>GetMsg</name>
     <message>
         <source>no record has been found</source>
@@ -840,6 +963,17 @@
     <message>
         <source>no record has been found</source>
         <translation>Записи не найдены</translation>
+    </message>
+</context>
+<context>
+    <name>LabelFoldBtn</name>
+    <message>
+        <source>Fold</source>
+        <translation>Свернуть</translation>
+    </message>
+    <message>
+        <source>Unfold</source>
+        <translation>Развернуть</translation>
     </message>
 </context>
 <context>
@@ -927,6 +1061,81 @@
         <source>Restore</source>
         <translation>Восстановить</translation>
     </message>
+    <message>
+        <source>Live</source>
+        <translation>Прямой эфир</translation>
+    </message>
+    <message>
+        <source>Not part of this version yet</source>
+        <translation>В этой версии пока нет</translation>
+    </message>
+    <message>
+        <source>Playback</source>
+        <translation>Архив</translation>
+    </message>
+    <message>
+        <source>Control Panel</source>
+        <translation>Панель управления</translation>
+    </message>
+    <message>
+        <source>Device List</source>
+        <translation>Список устройств</translation>
+    </message>
+    <message>
+        <source>PTZ Control</source>
+        <translation>Управление PTZ</translation>
+    </message>
+    <message>
+        <source>System Info</source>
+        <translation>О системе</translation>
+    </message>
+    <message>
+        <source>Page:</source>
+        <translation>Страница:</translation>
+    </message>
+    <message>
+        <source>,Total:</source>
+        <translation>,Всего:</translation>
+    </message>
+    <message>
+        <source>[Unselected]</source>
+        <translation>[Не выбрано]</translation>
+    </message>
+</context>
+<context>
+    <name>MenuDevList</name>
+    <message>
+        <source>Search</source>
+        <translation>Поиск</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>Обновить</translation>
+    </message>
+    <message>
+        <source>Drop down to load more</source>
+        <translation>Прокрутите, чтобы загрузить ещё</translation>
+    </message>
+    <message>
+        <source>Not part of this version yet</source>
+        <translation>В этой версии пока нет</translation>
+    </message>
+    <message>
+        <source>Add Device</source>
+        <translation>Добавить устройство</translation>
+    </message>
+    <message>
+        <source>No device matches the search</source>
+        <translation>Нет устройств, подходящих под запрос</translation>
+    </message>
+    <message>
+        <source>The local list is always up to date</source>
+        <translation>Локальный список всегда актуален</translation>
+    </message>
+    <message>
+        <source>No devices yet. The user&apos;s guide tells how to add the first one.</source>
+        <translation>Устройств пока нет. Как добавить первое, описано в руководстве.</translation>
+    </message>
 </context>
 <context>
     <name>PageBtn</name>
@@ -937,6 +1146,43 @@
     <message>
         <source>Next Page</source>
         <translation>Следующая страница</translation>
+    </message>
+</context>
+<context>
+    <name>PlayBtn</name>
+    <message>
+        <source>Stop</source>
+        <translation>Остановить</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Воспроизвести</translation>
+    </message>
+</context>
+<context>
+    <name>ReopenAlert</name>
+    <message>
+        <source>Do you want to reload the channel that was opened when it was last closed</source>
+        <translation>Открыть снова каналы, которые были открыты при последнем закрытии?</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>Confirm</source>
+        <translation>Подтвердить</translation>
+    </message>
+</context>
+<context>
+    <name>ScreenShotAlert</name>
+    <message>
+        <source>Close</source>
+        <translation>Закрыть</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>Канал</translation>
     </message>
 </context>
 <context>

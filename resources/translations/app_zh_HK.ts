@@ -29,6 +29,25 @@
     </message>
 </context>
 <context>
+    <name>Alert</name>
+    <message>
+        <source>Error Code:</source>
+        <translation>錯誤代碼:</translation>
+    </message>
+    <message>
+        <source>Device:</source>
+        <translation>裝置:</translation>
+    </message>
+    <message>
+        <source>Information:</source>
+        <translation>資訊:</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>關閉</translation>
+    </message>
+</context>
+<context>
     <name>ChannelWindow</name>
     <message>
         <source>Channel</source>
@@ -44,6 +63,103 @@
     <message>
         <source>[START]Debug mod is working,Waiting to record</source>
         <translation>[START]偵錯模式已啟用，等待記錄</translation>
+    </message>
+</context>
+<context>
+    <name>DelAlert</name>
+    <message>
+        <source>Delete Device</source>
+        <translation>刪除裝置</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Confirm</source>
+        <translation>確認</translation>
+    </message>
+</context>
+<context>
+    <name>Dev</name>
+    <message>
+        <source>Network Error</source>
+        <translation>網絡錯誤</translation>
+    </message>
+    <message>
+        <source>This version loads no devices from the cloud yet.</source>
+        <translation>此版本尚未能從雲端載入裝置。</translation>
+    </message>
+    <message>
+        <source>[Unknown:</source>
+        <translation>[未知:</translation>
+    </message>
+</context>
+<context>
+    <name>DevMenu</name>
+    <message>
+        <source>Play All</source>
+        <translation>全部播放</translation>
+    </message>
+    <message>
+        <source>Stop All</source>
+        <translation>全部停止</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>播放</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>HD</source>
+        <translation>HD</translation>
+    </message>
+    <message>
+        <source>SD</source>
+        <translation>SD</translation>
+    </message>
+    <message>
+        <source>Synchronize Timeline</source>
+        <translation>同步時間軸</translation>
+    </message>
+    <message>
+        <source>Audio Get</source>
+        <translation>開啟聲音</translation>
+    </message>
+    <message>
+        <source>Not part of this version yet</source>
+        <translation>此版本尚未提供</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>靜音</translation>
+    </message>
+    <message>
+        <source>Send Voice</source>
+        <translation>語音對講</translation>
+    </message>
+    <message>
+        <source>Edit Device</source>
+        <translation>編輯裝置</translation>
+    </message>
+    <message>
+        <source>Reset Connect</source>
+        <translation>重設連線</translation>
+    </message>
+    <message>
+        <source>Record Folder</source>
+        <translation>錄影資料夾</translation>
+    </message>
+    <message>
+        <source>Screenshot Folder</source>
+        <translation>截圖資料夾</translation>
+    </message>
+    <message>
+        <source>Delete Device</source>
+        <translation>刪除裝置</translation>
     </message>
 </context>
 <context>
@@ -770,6 +886,13 @@
     </message>
 </context>
 <context>
+    <name>EscAlert</name>
+    <message>
+        <source>Press ESC to exit the full screen</source>
+        <translation>按 ESC 退出全螢幕</translation>
+    </message>
+</context>
+<context>
     <name>GetMsg</name>
     <message>
         <source>no record has been found</source>
@@ -840,6 +963,17 @@
     <message>
         <source>no record has been found</source>
         <translation>找不到錄影</translation>
+    </message>
+</context>
+<context>
+    <name>LabelFoldBtn</name>
+    <message>
+        <source>Fold</source>
+        <translation>摺疊</translation>
+    </message>
+    <message>
+        <source>Unfold</source>
+        <translation>展開</translation>
     </message>
 </context>
 <context>
@@ -927,6 +1061,81 @@
         <source>Restore</source>
         <translation>還原</translation>
     </message>
+    <message>
+        <source>Live</source>
+        <translation>即時</translation>
+    </message>
+    <message>
+        <source>Not part of this version yet</source>
+        <translation>此版本尚未提供</translation>
+    </message>
+    <message>
+        <source>Playback</source>
+        <translation>回放</translation>
+    </message>
+    <message>
+        <source>Control Panel</source>
+        <translation>控制台</translation>
+    </message>
+    <message>
+        <source>Device List</source>
+        <translation>裝置清單</translation>
+    </message>
+    <message>
+        <source>PTZ Control</source>
+        <translation>雲台控制</translation>
+    </message>
+    <message>
+        <source>System Info</source>
+        <translation>系統資訊</translation>
+    </message>
+    <message>
+        <source>Page:</source>
+        <translation>頁:</translation>
+    </message>
+    <message>
+        <source>,Total:</source>
+        <translation>,共:</translation>
+    </message>
+    <message>
+        <source>[Unselected]</source>
+        <translation>[未選取]</translation>
+    </message>
+</context>
+<context>
+    <name>MenuDevList</name>
+    <message>
+        <source>Search</source>
+        <translation>搜尋</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>重新整理</translation>
+    </message>
+    <message>
+        <source>Drop down to load more</source>
+        <translation>下拉載入更多</translation>
+    </message>
+    <message>
+        <source>Not part of this version yet</source>
+        <translation>此版本尚未提供</translation>
+    </message>
+    <message>
+        <source>Add Device</source>
+        <translation>新增裝置</translation>
+    </message>
+    <message>
+        <source>No device matches the search</source>
+        <translation>沒有符合搜尋的裝置</translation>
+    </message>
+    <message>
+        <source>The local list is always up to date</source>
+        <translation>本機清單一律為最新</translation>
+    </message>
+    <message>
+        <source>No devices yet. The user&apos;s guide tells how to add the first one.</source>
+        <translation>還沒有裝置。使用手冊說明如何新增第一台裝置。</translation>
+    </message>
 </context>
 <context>
     <name>PageBtn</name>
@@ -937,6 +1146,43 @@
     <message>
         <source>Next Page</source>
         <translation>下一頁</translation>
+    </message>
+</context>
+<context>
+    <name>PlayBtn</name>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>播放</translation>
+    </message>
+</context>
+<context>
+    <name>ReopenAlert</name>
+    <message>
+        <source>Do you want to reload the channel that was opened when it was last closed</source>
+        <translation>是否重新開啟上次關閉時開啟的頻道</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Confirm</source>
+        <translation>確認</translation>
+    </message>
+</context>
+<context>
+    <name>ScreenShotAlert</name>
+    <message>
+        <source>Close</source>
+        <translation>關閉</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>通道</translation>
     </message>
 </context>
 <context>

@@ -89,8 +89,7 @@ void MainWindow::buildPanels()
         panel.header->installEventFilter(this);
         connect(panel.fold, &LabelFoldBtn::clicked, this, &MainWindow::clickFold);
     }
-    panels_.front().fold->setUnfolded(true);
-    panels_.front().body->show();
+    clickFold(panels_.front().fold, true);
 }
 
 void MainWindow::connectHeader()

@@ -217,7 +217,7 @@ void MenuDevList::showHints()
     ui_->label_loadMore->setVisible(isLoaded_ && !isEnd_);
     showRefresh();
     ui_->label_empty->setVisible(isLoaded_ && !isFound);
-    ui_->label_empty->setText(isSearch ? tr("No device matches the search") : tr("No devices yet"));
+    ui_->label_empty->setText(isSearch ? tr("No device matches the search") : tr("No devices yet. The user's guide tells how to add the first one."));
 }
 
 void MenuDevList::changeEvent(QEvent* event)
