@@ -42,6 +42,8 @@ void MainWindow::centreOnWall(QWidget* popup) const
 
 void MainWindow::showPopup(QWidget* popup)
 {
+    if (popup->hasHeightForWidth()) // its size hint knows nothing of lines that wrap
+        popup->resize(popup->width(), popup->heightForWidth(popup->width()));
     placePopups();
     popup->show();
     popup->raise();
@@ -101,6 +103,7 @@ void MainWindow::openedSubWindowMenu(Device* dev, Channel* channel, QMouseEvent*
     devMenu_->move(std::max(x, 0), std::max(y, 0));
     devMenu_->show();
     devMenu_->raise();
+    devMenu_->setFocus();
 }
 
 void MainWindow::closedSubWindowMenu(QMouseEvent* event)

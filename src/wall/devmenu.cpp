@@ -8,8 +8,11 @@
 #include "ui_devmenu.h"
 #include "wall/viewcontrol.h"
 
+#include <QApplication>
 #include <QDesktopServices>
 #include <QDir>
+#include <QKeyEvent>
+#include <QMouseEvent>
 #include <QUrl>
 
 DevMenu::DevMenu(Device* device, Channel* channel, QWidget* parent)
@@ -20,6 +23,8 @@ DevMenu::DevMenu(Device* device, Channel* channel, QWidget* parent)
 {
     ui_->setupUi(this);
     setAttribute(Qt::WA_StyledBackground);
+    setFocusPolicy(Qt::ClickFocus);
+    qApp->installEventFilter(this);
     connectRows();
     connectSenders();
     showRows();
@@ -28,6 +33,47 @@ DevMenu::DevMenu(Device* device, Channel* channel, QWidget* parent)
 }
 
 DevMenu::~DevMenu() = default;
+
+bool DevMenu::eventFilter(QObject* watched, QEvent* event)
+{
+    const auto* pressed = qobject_cast<QWidget*>(watched);
+    if (event->type() == QEvent::MouseButtonPress && pressed != nullptr && isVisible()
+        && pressed != this && !isAncestorOf(pressed))
+        emit ViewControl::instance()->closeMenuMsg();
+    return QWidget::eventFilter(watched, event);
+}
+
+void DevMenu::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Escape)
+        emit ViewControl::instance()->closeMenuMsg();
+    else if (event->key() == Qt::Key_Down)
+        stepFocus(1);
+    else if (event->key() == Qt::Key_Up)
+        stepFocus(-1);
+    else
+        QWidget::keyPressEvent(event);
+}
+
+// On a rule or a disabled row it must not go on to what is around the menu, which would close it.
+void DevMenu::mousePressEvent(QMouseEvent* event)
+{
+    event->accept();
+}
+
+void DevMenu::stepFocus(int direction)
+{
+    QList<DevMenuItem*> rows;
+    for (int i = 0; i < ui_->layout->count(); ++i) {
+        auto* row = qobject_cast<DevMenuItem*>(ui_->layout->itemAt(i)->widget());
+        if (row != nullptr && row->isVisible() && row->isEnabled())
+            rows.append(row);
+    }
+    const int now = rows.indexOf(qobject_cast<DevMenuItem*>(focusWidget()));
+    const int next = now < 0 && direction < 0 ? rows.size() - 1 : now + direction;
+    if (!rows.isEmpty())
+        rows.at((next + rows.size()) % rows.size())->setFocus();
+}
 
 void DevMenu::connectRow(DevMenuItem* row, Action action)
 {

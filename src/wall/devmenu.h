@@ -25,6 +25,13 @@ public:
     DevMenu(Device* device, Channel* channel, QWidget* parent);
     ~DevMenu() override;
 
+    // A press anywhere else closes it.
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+
 private slots:
     void videoRequestSuccess(Channel* channel);
     void changeQualitySuccess(Channel* channel);
@@ -50,6 +57,7 @@ private:
     void showRows();
     void showMarks();
     void openFolder(bool isVideo);
+    void stepFocus(int direction);
     void forgetDevice(const Device* device);
 
     const std::unique_ptr<Ui::DevMenu> ui_;

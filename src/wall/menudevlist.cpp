@@ -141,9 +141,15 @@ void MenuDevList::refresh()
     requestPage(page_);
 }
 
+// While a page is awaited another request would end that one, and its page would be passed over.
+bool MenuDevList::mayLoadMore() const
+{
+    return !isEnd_ && waitingCircle_ == nullptr;
+}
+
 void MenuDevList::sliderChanged(int val)
 {
-    if (val == ui_->scrollArea->verticalScrollBar()->maximum() && !isEnd_)
+    if (val == ui_->scrollArea->verticalScrollBar()->maximum() && mayLoadMore())
         loadDevList();
 }
 
@@ -153,7 +159,7 @@ void MenuDevList::resizeEvent(QResizeEvent* event)
     QWidget::resizeEvent(event);
     if (waitingCircle_ != nullptr)
         waitingCircle_->centre();
-    if (isLoaded_ && !isEnd_
+    if (isLoaded_ && mayLoadMore()
         && ui_->widget_blocks->height() < ui_->scrollArea->viewport()->height())
         loadDevList();
 }
@@ -161,6 +167,8 @@ void MenuDevList::resizeEvent(QResizeEvent* event)
 void MenuDevList::searchDev(const QString& text)
 {
     Dev::instance()->setFilter(text);
+    // A list that shrinks under its view would end up at its end, which asks for the next page.
+    ui_->scrollArea->verticalScrollBar()->setValue(0);
     rebuild();
 }
 
@@ -217,7 +225,9 @@ void MenuDevList::showHints()
     ui_->label_loadMore->setVisible(isLoaded_ && !isEnd_);
     showRefresh();
     ui_->label_empty->setVisible(isLoaded_ && !isFound);
-    ui_->label_empty->setText(isSearch ? tr("No device matches the search") : tr("No devices yet. The user's guide tells how to add the first one."));
+    ui_->label_empty->setText(isSearch
+            ? tr("No device matches the search")
+            : tr("No devices yet. The user's guide tells how to add the first one."));
 }
 
 void MenuDevList::changeEvent(QEvent* event)

@@ -46,6 +46,7 @@ protected:
 
 private:
     void requestPage(int page);
+    bool mayLoadMore() const;
     void loadLocalList();
     void showWaiting();
     void rebuild();

@@ -12,6 +12,7 @@
 #include "wall/viewcontrol.h"
 
 #include <QStyle>
+#include <QTextDocument>
 
 namespace {
 
@@ -33,6 +34,14 @@ QString shortened(const QString& name)
     constexpr int most = 12;
     constexpr int kept = 11;
     return name.size() > most ? name.left(kept) + QStringLiteral("...") : name;
+}
+
+// Always rich text, so that no name is taken for it; and not wider than a screen.
+QString hintOf(const QString& name)
+{
+    constexpr int most = 100;
+    return Qt::convertFromPlainText(
+        name.size() > most ? name.left(most) + QStringLiteral("...") : name, Qt::WhiteSpaceNormal);
 }
 
 } // namespace
@@ -66,6 +75,7 @@ void MenuListDev::connectSenders()
     connect(io, &IoConnect::videoRequestStopSuccessMsg, this, &Block::videoRequestStopSuccess);
     connect(io, &IoConnect::stopReplaySuccessMsg, this, &Block::videoRequestStopSuccess);
     connect(io, &IoConnect::videoRequestStopSuccessMsg, this, &Block::showDevClosed);
+    connect(io, &IoConnect::stopReplaySuccessMsg, this, &Block::showDevClosed);
     const Decode* decode = Decode::instance();
     connect(decode, &Decode::streamSilentMsg, this, &Block::connectDevFail);
     connect(decode, &Decode::streamBackMsg, this, &Block::connectChannelSuccess);
@@ -88,7 +98,7 @@ void MenuListDev::showTitle()
 {
     const QString name = device_->nickName().isEmpty() ? device_->uid() : device_->nickName();
     ui_->label_name->setText(shortened(name));
-    ui_->widget_title->setToolTip(name.toHtmlEscaped());
+    ui_->widget_title->setToolTip(hintOf(name));
     ui_->widget_title->setAccessibleName(name);
     const char* icon = Dev::isCamera(*device_) ? "c512.png" : "DVR.png";
     ui_->label_icon->setPixmap(QPixmap(keyPicture(icon)));
