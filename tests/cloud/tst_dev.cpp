@@ -149,9 +149,9 @@ void TestDev::knownDeviceKeepsItsPlaceAndItsChannels()
     first->sid = 7;
     channel->mode(true).open = true;
     channel->mode(true).avIndex = 3;
-    Dev::instance()->addDevice(deviceOf(QStringLiteral("A"), 1));
+    Dev::instance()->addDevice(deviceOf(QStringLiteral("A"), 3));
     QCOMPARE(Dev::instance()->devices(), QList<Device*>({first, second}));
-    QCOMPARE(first->channelCount(), 1);
+    QCOMPARE(first->channelCount(), 3);
     QCOMPARE(first->channel(1), channel);
     QVERIFY(channel->mode(true).open);
     QCOMPARE(int(channel->mode(true).avIndex), 3);
