@@ -5,7 +5,7 @@
 #include "model/device.h"
 #include "ui_alert.h"
 
-#include <QKeyEvent>
+#include <QShortcut>
 
 Alert::Alert(QWidget* parent)
     : QWidget(parent)
@@ -15,6 +15,10 @@ Alert::Alert(QWidget* parent)
     setAttribute(Qt::WA_StyledBackground);
     ui_->label_close->setPicture(keyPicture("alert_close"));
     connect(ui_->label_close, &LabelSystemBtn::clickMsg, this, &Alert::closeMsg);
+    // It takes no focus: the user may be typing when it comes.
+    const auto* escape = new QShortcut(Qt::Key_Escape, this);
+    connect(escape, &QShortcut::activated, this, &Alert::closeMsg);
+    connect(escape, &QShortcut::activatedAmbiguously, this, &Alert::closeMsg);
 }
 
 Alert::~Alert() = default;
@@ -30,12 +34,4 @@ void Alert::setFailure(const Channel* channel, int error, const QString& text)
             QStringLiteral("%1(%2)").arg(channel->device()->uid()).arg(channel->number() + 1));
     }
     adjustSize();
-}
-
-void Alert::keyPressEvent(QKeyEvent* event)
-{
-    if (event->key() == Qt::Key_Escape)
-        emit closeMsg();
-    else
-        QWidget::keyPressEvent(event);
 }

@@ -26,9 +26,6 @@ public:
 signals:
     void closeMsg();
 
-protected:
-    void keyPressEvent(QKeyEvent* event) override;
-
 private:
     const std::unique_ptr<Ui::Alert> ui_;
 };

@@ -14,7 +14,10 @@ DelAlert::DelAlert(Device* device, QWidget* parent)
 {
     ui_->setupUi(this);
     setAttribute(Qt::WA_StyledBackground);
-    const QString name = device->nickName();
+    constexpr int widest = 280; // of a name: it may be as long as it likes
+    ui_->label_device->ensurePolished();
+    const QString name = ui_->label_device->fontMetrics().elidedText(
+        device->nickName().simplified(), Qt::ElideRight, widest);
     ui_->label_device->setText(
         name.isEmpty() ? device->uid() : QStringLiteral("%1 (%2)").arg(name, device->uid()));
     connect(ui_->pushButton_confirm, &QPushButton::clicked, this, &DelAlert::confirm);

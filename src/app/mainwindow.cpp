@@ -188,6 +188,7 @@ void MainWindow::resizeEvent(QResizeEvent* event)
 void MainWindow::layOut()
 {
     ui_->layout_main->activate();
+    selectedDev(Dev::instance()->selectedDevice()); // as much of its name as there is room for
     placePopups();
     placeDebugPanel();
 }
@@ -232,8 +233,9 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event)
     }
     if (watched == ui_->widget_center && event->type() == QEvent::Resize)
         sizePanels();
-    if (watched == windowLogin_ && event->type() == QEvent::Close)
-        close(nullptr); // by the window manager
+    if ((watched == windowLogin_ || watched == ui_->widget_center)
+        && event->type() == QEvent::Close)
+        close(nullptr); // by the window manager, in full screen too
     if (watched == ui_->widget_viewBox && event->type() == QEvent::Resize) {
         const QSize wall = ui_->widget_viewBox->size();
         ViewControl::instance()->layoutWindows(wall.width(), wall.height());
@@ -289,10 +291,11 @@ void MainWindow::changeMod(WidgetBtnLive* modBtn)
 
 void MainWindow::changeMod(bool isLive)
 {
-    for (QWidget* part : {ui_->widget_progressBar, static_cast<QWidget*>(ui_->label_dateBtn),
-             static_cast<QWidget*>(ui_->label_icon_pause), ui_->widget_icon_fbBox,
-             ui_->widget_icon_ffBox})
-        part->setVisible(!isLive && !isFull_);
+    ui_->widget_progressBar->setVisible(!isLive && !isFull_);
+    for (QWidget* part :
+        {static_cast<QWidget*>(ui_->label_dateBtn), static_cast<QWidget*>(ui_->label_icon_pause),
+            ui_->widget_icon_fbBox, ui_->widget_icon_ffBox})
+        part->setVisible(!isLive);
     ui_->widget_btn_life->setSelected(isLive);
     ui_->widget_btn_playback->setSelected(!isLive);
     layOut();
@@ -300,10 +303,10 @@ void MainWindow::changeMod(bool isLive)
 
 void MainWindow::selectedDev(Device* dev)
 {
-    if (dev == nullptr)
-        ui_->label_devName->setText(tr("[Unselected]"));
-    else
-        ui_->label_devName->setText(dev->nickName().isEmpty() ? dev->uid() : dev->nickName());
+    QLabel* label = ui_->label_devName;
+    const QString name = dev == nullptr ? tr("[Unselected]") : dev->shownName();
+    label->ensurePolished();
+    label->setText(label->fontMetrics().elidedText(name, Qt::ElideRight, label->width()));
 }
 
 void MainWindow::speedChange(PLAY_SPEED speed)

@@ -130,7 +130,7 @@ private:
     QPointer<ReopenAlert> reopenAlert_;
     QPointer<ScreenShotAlert> screenShotAlert_;
 
-    QTimer escTimer_; // ends the hint how to leave the full screen
+    QTimer escTimer_{this}; // ends the hint how to leave the full screen
     int brand_ = 0;
     bool isFull_ = false; // the wall has the whole screen
     bool isOfferMade_ = false; // to open the channels of the last time

@@ -52,6 +52,13 @@ QString Device::viewAccount() const
     return viewAccount_.isEmpty() ? QStringLiteral("Admin") : viewAccount_;
 }
 
+QString Device::shownName() const
+{
+    constexpr int most = 200;
+    const QString& name = nickName_.isEmpty() ? uid_ : nickName_;
+    return name.size() > most ? name.left(most) + QStringLiteral("...") : name;
+}
+
 void Device::setChannelCount(int count)
 {
     channelCount_ = count == 0 ? 1 : std::min(count, maxChannels);

@@ -28,6 +28,9 @@ public:
     const QString& id() const { return id_; } // record id in the cloud list
     const QString& uid() const { return uid_; }
     const QString& nickName() const { return nickName_; }
+    // What views show: the nick name, or the UID where there is none; at most 200 characters, since
+    // a list may hold anything.
+    QString shownName() const;
     const QString& viewPassword() const { return viewPassword_; } // clear text, in memory only
     QString viewAccount() const; // "Admin" while none is set
     int type() const { return type_; } // device type code of the cloud list

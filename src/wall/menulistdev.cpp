@@ -96,7 +96,7 @@ void MenuListDev::setDevice(Device* device)
 
 void MenuListDev::showTitle()
 {
-    const QString name = device_->nickName().isEmpty() ? device_->uid() : device_->nickName();
+    const QString name = device_->shownName();
     ui_->label_name->setText(shortened(name));
     ui_->widget_title->setToolTip(hintOf(name));
     ui_->widget_title->setAccessibleName(name);
