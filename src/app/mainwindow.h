@@ -107,6 +107,8 @@ private:
     void layOut();
     void sizePanels();
     void placePopups();
+    template <class Popup>
+    void closePopup(QPointer<Popup>& popup);
     void centreOnWall(QWidget* popup) const;
     void moveClear(QWidget* hint) const;
     void showPopup(QWidget* popup);

@@ -12,24 +12,25 @@
 #include "wall/devmenu.h"
 #include "wall/windownummenu.h"
 
+#include <QApplication>
 #include <QMouseEvent>
 
 #include <algorithm>
 
-namespace {
-
-// It may be the popup whose click is being dealt with, so it goes later.
+// It may be the popup whose click is being dealt with, so it goes later. A focus in it goes to the
+// wall: Qt would give it to some key, which would light up.
 template <class Popup>
-void closePopup(QPointer<Popup>& popup)
+void MainWindow::closePopup(QPointer<Popup>& popup)
 {
     if (popup == nullptr)
         return;
+    const QWidget* focus = QApplication::focusWidget();
+    if (focus != nullptr && (focus == popup || popup->isAncestorOf(focus)))
+        ui_->widget_videoView->setFocus();
     popup->hide();
     popup->deleteLater();
     popup.clear();
 }
-
-} // namespace
 
 void MainWindow::centreOnWall(QWidget* popup) const
 {
