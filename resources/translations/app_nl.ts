@@ -1149,6 +1149,13 @@
     </message>
 </context>
 <context>
+    <name>PictureKey</name>
+    <message>
+        <source>Not part of this version yet</source>
+        <translation>Nog niet in deze versie</translation>
+    </message>
+</context>
+<context>
     <name>PlayBtn</name>
     <message>
         <source>Stop</source>

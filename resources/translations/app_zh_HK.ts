@@ -1149,6 +1149,13 @@
     </message>
 </context>
 <context>
+    <name>PictureKey</name>
+    <message>
+        <source>Not part of this version yet</source>
+        <translation>此版本尚未提供</translation>
+    </message>
+</context>
+<context>
     <name>PlayBtn</name>
     <message>
         <source>Stop</source>

@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/alert.h"
 
+#include "app/escapekey.h"
 #include "app/pictures.h"
 #include "model/device.h"
 #include "ui_alert.h"
-
-#include <QShortcut>
 
 Alert::Alert(QWidget* parent)
     : QWidget(parent)
@@ -15,10 +14,7 @@ Alert::Alert(QWidget* parent)
     setAttribute(Qt::WA_StyledBackground);
     ui_->label_close->setPicture(keyPicture("alert_close"));
     connect(ui_->label_close, &LabelSystemBtn::clickMsg, this, &Alert::closeMsg);
-    // It takes no focus: the user may be typing when it comes.
-    const auto* escape = new QShortcut(Qt::Key_Escape, this);
-    connect(escape, &QShortcut::activated, this, &Alert::closeMsg);
-    connect(escape, &QShortcut::activatedAmbiguously, this, &Alert::closeMsg);
+    onEscape(this, this, &Alert::closeMsg);
 }
 
 Alert::~Alert() = default;

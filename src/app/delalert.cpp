@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/delalert.h"
 
+#include "app/escapekey.h"
 #include "cloud/dev.h"
 #include "ui_delalert.h"
 #include "wall/viewcontrol.h"
-
-#include <QKeyEvent>
 
 DelAlert::DelAlert(Device* device, QWidget* parent)
     : QWidget(parent)
@@ -24,6 +23,7 @@ DelAlert::DelAlert(Device* device, QWidget* parent)
     connect(ui_->pushButton_cancel, &QPushButton::clicked, ViewControl::instance(),
         &ViewControl::closeDelAlertMsg);
     connect(Dev::instance(), &Dev::deleteDevMsg, this, &DelAlert::forgetDevice);
+    onEscape(this, ViewControl::instance(), &ViewControl::closeDelAlertMsg);
     adjustSize();
     ui_->pushButton_cancel->setFocus();
 }
@@ -40,12 +40,4 @@ void DelAlert::forgetDevice(const Device* device)
 {
     if (device == device_)
         device_ = nullptr;
-}
-
-void DelAlert::keyPressEvent(QKeyEvent* event)
-{
-    if (event->key() == Qt::Key_Escape)
-        emit ViewControl::instance()->closeDelAlertMsg();
-    else
-        QWidget::keyPressEvent(event);
 }

@@ -21,9 +21,6 @@ public:
     DelAlert(Device* device, QWidget* parent);
     ~DelAlert() override;
 
-protected:
-    void keyPressEvent(QKeyEvent* event) override;
-
 private:
     void confirm();
     void forgetDevice(const Device* device);

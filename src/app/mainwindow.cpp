@@ -20,8 +20,10 @@
 #include "wall/pagebtn.h"
 #include "wall/windownummenu.h"
 
+#include <QScreen>
 #include <QShortcut>
 #include <QStyle>
+#include <QWindow>
 
 #include <algorithm>
 #include <chrono>
@@ -223,8 +225,10 @@ void MainWindow::changeEvent(QEvent* event)
 
 bool MainWindow::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched == ui_->label_debugRecord_btn && isActivation(event))
+    if (watched == ui_->label_debugRecord_btn && isActivation(event)) {
         toggleDebugRecord();
+        return true; // or a drag of the window would begin
+    }
     if (event->type() == QEvent::MouseButtonPress && isActivation(event)) {
         for (const Panel& panel : panels_) {
             if (watched == panel.header && panel.header->isEnabled())
@@ -349,7 +353,9 @@ void MainWindow::fullGL(bool isFull)
     ui_->widget_progressBar->setVisible(!isFull && !isLive);
     delete escAlert_;
     if (isFull) {
+        const QRect screen = window()->windowHandle()->screen()->geometry();
         ui_->widget_center->setWindowFlags(Qt::Window);
+        ui_->widget_center->move(screen.topLeft()); // the screen that shows the window now
         ui_->widget_center->showFullScreen();
         openEscAlert();
     } else {

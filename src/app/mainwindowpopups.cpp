@@ -99,8 +99,9 @@ void MainWindow::openedSubWindowMenu(Device* dev, Channel* channel, QMouseEvent*
     QWidget* room = ui_->widget_center;
     devMenu_ = new DevMenu(dev, channel, room);
     const QPoint mouse = room->mapFromGlobal(event->globalPos());
-    const int x = std::min(mouse.x() - 2, room->width() - devMenu_->width());
-    const int y = std::min(mouse.y() + 3, room->height() - devMenu_->height());
+    const QPoint wanted = isFull_ ? mouse : mouse + QPoint(-2, 3);
+    const int x = std::min(wanted.x(), room->width() - devMenu_->width());
+    const int y = std::min(wanted.y(), room->height() - devMenu_->height());
     devMenu_->move(std::max(x, 0), std::max(y, 0));
     devMenu_->show();
     devMenu_->raise();

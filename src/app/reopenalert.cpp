@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/reopenalert.h"
 
+#include "app/escapekey.h"
 #include "cloud/dev.h"
 #include "store/location.h"
 #include "ui_reopenalert.h"
@@ -9,7 +10,8 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QKeyEvent>
+
+#include <algorithm>
 
 namespace {
 
@@ -44,6 +46,7 @@ ReopenAlert::ReopenAlert(const QString& openChannels, QWidget* parent)
     setAttribute(Qt::WA_StyledBackground);
     connect(ui_->pushButton_confirm, &QPushButton::clicked, this, &ReopenAlert::confirm);
     connect(ui_->pushButton_cancel, &QPushButton::clicked, this, &ReopenAlert::cancel);
+    onEscape(this, this, &ReopenAlert::cancel);
     adjustSize();
     ui_->pushButton_confirm->setFocus();
 }
@@ -65,14 +68,12 @@ void ReopenAlert::confirm()
 
 void ReopenAlert::cancel()
 {
-    Location::instance()->setDeviceChannel(QStringLiteral("[]"));
-    emit closeMsg();
-}
-
-void ReopenAlert::keyPressEvent(QKeyEvent* event)
-{
-    if (event->key() == Qt::Key_Escape)
-        cancel();
+    // What has been opened beside the offer is not to be forgotten with it.
+    const QList<Channel*> channels = Dev::instance()->channels();
+    if (std::any_of(channels.begin(), channels.end(),
+            [](const Channel* channel) { return bool(channel->mode(true).open); }))
+        Dev::instance()->saveOpenChannels();
     else
-        QWidget::keyPressEvent(event);
+        Location::instance()->setDeviceChannel(QStringLiteral("[]"));
+    emit closeMsg();
 }

@@ -25,9 +25,6 @@ public:
 signals:
     void closeMsg();
 
-protected:
-    void keyPressEvent(QKeyEvent* event) override;
-
 private:
     void confirm();
     void cancel();

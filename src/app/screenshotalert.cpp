@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/screenshotalert.h"
 
+#include "app/escapekey.h"
 #include "app/pictures.h"
 #include "model/channel.h"
 #include "ui_screenshotalert.h"
@@ -13,10 +14,12 @@ ScreenShotAlert::ScreenShotAlert(const Channel* channel, const QString& path, QW
     setAttribute(Qt::WA_StyledBackground);
     ui_->label_close->setPicture(keyPicture("alert_close"));
     connect(ui_->label_close, &LabelSystemBtn::clickMsg, this, &ScreenShotAlert::closeMsg);
+    onEscape(this, this, &ScreenShotAlert::closeMsg);
     ui_->label_channel->setText(tr("Channel") + QString::number(channel->number() + 1));
     const QSize room = ui_->label_picture->maximumSize();
-    ui_->label_picture->setPixmap(
-        QPixmap(path).scaled(room, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+    if (const QPixmap picture(path); !picture.isNull())
+        ui_->label_picture->setPixmap(
+            picture.scaled(room, Qt::KeepAspectRatio, Qt::SmoothTransformation));
     ui_->label_path->setToolTip(path.toHtmlEscaped());
     ui_->label_path->setText(
         ui_->label_path->fontMetrics().elidedText(path, Qt::ElideMiddle, room.width()));

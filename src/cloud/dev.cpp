@@ -156,6 +156,9 @@ void Dev::giveUpChannels(Device* device, int channelCount)
     if (channelCount >= device->channelCount())
         return;
     ViewControl::instance()->closeDevice(device);
+    if (selectedChannel_ != nullptr && selectedChannel_->device() == device
+        && selectedChannel_->number() >= channelCount)
+        selectChannel(nullptr);
     for (int i = channelCount; i < device->channelListSize(); ++i) {
         device->channel(i)->mode(true).open = false;
         device->channel(i)->mode(false).open = false;
@@ -219,6 +222,7 @@ void Dev::deleteLocalDev(Device* device)
         return;
     LocalStore::instance()->removeDevice(device->uid());
     removeDevice(device);
+    saveOpenChannels();
     emit reloadDevMsg(device);
 }
 

@@ -86,7 +86,7 @@ signals:
 
 private:
     void forget(const Device* device);
-    static void giveUpChannels(Device* device, int channelCount);
+    void giveUpChannels(Device* device, int channelCount);
 
     std::vector<DeviceOwner> devices_;
     Device* selectedDevice_ = nullptr;

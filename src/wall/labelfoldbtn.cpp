@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "wall/labelfoldbtn.h"
 
+#include <QVariant>
+
 LabelFoldBtn::LabelFoldBtn(QWidget* parent)
     : PictureKey(parent)
 {

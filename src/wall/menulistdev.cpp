@@ -210,8 +210,8 @@ void MenuListDev::videoRequestStopSuccess(Channel* iChannel)
 // Its last stream has ended, or its session.
 void MenuListDev::showDevClosed(Channel* iChannel)
 {
-    if (isOurs(iChannel) && channel_ == nullptr && !isAnyPlaying())
-        showState(State::Idle);
+    if (isOurs(iChannel) && channel_ == nullptr)
+        showPlaying();
 }
 
 void MenuListDev::changeMod(bool)

@@ -25,8 +25,8 @@ void PictureKey::setPicture(const QString& name, bool hasPlate)
 
 void PictureKey::showHint()
 {
-    setToolTip(hint());
-    setAccessibleName(toolTip());
+    setToolTip(isEnabled() ? hint() : tr("Not part of this version yet"));
+    setAccessibleName(hint());
 }
 
 void PictureKey::enterEvent(QEvent*)
@@ -82,7 +82,7 @@ void PictureKey::keyPressEvent(QKeyEvent* event)
 
 void PictureKey::changeEvent(QEvent* event)
 {
-    if (event->type() == QEvent::LanguageChange)
+    if (event->type() == QEvent::LanguageChange || event->type() == QEvent::EnabledChange)
         showHint();
     QLabel::changeEvent(event);
 }

@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <optional>
 
 namespace {
 
@@ -32,33 +33,62 @@ int list()
 
 bool isUid(const QString& text)
 {
-    static const QRegularExpression form(QStringLiteral("^[A-Z0-9]{20}$"));
+    static const QRegularExpression form(QStringLiteral("\\A[A-Z0-9]{20}\\z"));
     return form.match(text).hasMatch();
+}
+
+std::optional<LocalDeviceRecord> known(const QString& uid)
+{
+    const QList<LocalDeviceRecord> devices = LocalStore::instance()->loadDevices();
+    const auto at = std::find_if(devices.begin(), devices.end(),
+        [&](const LocalDeviceRecord& device) { return device.uid == uid; });
+    return at == devices.end() ? std::nullopt : std::make_optional(*at);
 }
 
 bool has(const QString& uid)
 {
-    const QList<LocalDeviceRecord> devices = LocalStore::instance()->loadDevices();
-    return std::any_of(devices.begin(), devices.end(),
-        [&](const LocalDeviceRecord& device) { return device.uid == uid; });
+    return known(uid).has_value();
 }
 
+LocalDeviceRecord fresh(const QString& uid)
+{
+    constexpr int camera = 7;
+    LocalDeviceRecord device;
+    device.uid = uid;
+    device.type = camera;
+    device.channel = 1;
+    return device;
+}
+
+// A known device keeps what no option names.
 int add(const QString& uid, const QCommandLineParser& options)
 {
-    LocalDeviceRecord device;
-    bool isType = false;
-    bool isCount = false;
-    device.uid = uid;
-    device.nickname = options.value(QStringLiteral("name"));
-    device.username = options.value(QStringLiteral("account"));
-    device.password = options.value(QStringLiteral("password"));
-    device.type = options.value(QStringLiteral("type")).toInt(&isType);
-    device.channel = options.value(QStringLiteral("channels")).toInt(&isCount);
+    LocalDeviceRecord device = known(uid).value_or(fresh(uid));
+    bool isType = true;
+    bool isCount = true;
+    const auto set = [&options](const char* name, QString& text) {
+        if (options.isSet(QString::fromLatin1(name)))
+            text = options.value(QString::fromLatin1(name));
+    };
+    const auto setNumber = [&options](const char* name, int& number, bool& isNumber) {
+        if (options.isSet(QString::fromLatin1(name)))
+            number = options.value(QString::fromLatin1(name)).toInt(&isNumber);
+    };
+    set("name", device.nickname);
+    set("account", device.username);
+    set("password", device.password);
+    setNumber("type", device.type, isType);
+    setNumber("channels", device.channel, isCount);
     constexpr int mostChannels = 256;
     if (!isType || !isCount || device.channel < 1 || device.channel > mostChannels)
         return fail(QStringLiteral("--type takes a number, --channels one from 1 to 256"));
     LocalStore::instance()->saveDevice(device);
-    return has(uid) ? done : fail(QStringLiteral("the settings cannot be written"), refused);
+    const auto stored = known(uid);
+    const bool isStored = stored && stored->nickname == device.nickname
+        && stored->username == device.username && stored->password == device.password
+        && stored->type == device.type && stored->channel == device.channel;
+    return isStored ? done
+                    : fail(QStringLiteral("the device could not be stored as given"), refused);
 }
 
 int remove(const QString& uid)
@@ -71,15 +101,15 @@ int remove(const QString& uid)
 
 void addOptions(QCommandLineParser& options)
 {
-    const auto option = [&options](const char* name, const char* what, const char* fallback) {
-        options.addOption({QString::fromLatin1(name), QString::fromLatin1(what),
-            QStringLiteral("value"), QString::fromLatin1(fallback)});
+    const auto option = [&options](const char* name, const char* what) {
+        options.addOption(
+            {QString::fromLatin1(name), QString::fromLatin1(what), QStringLiteral("value")});
     };
-    option("name", "shown in the device list; else the UID", "");
-    option("account", "the view account; else Admin", "");
-    option("password", "the view password", "");
-    option("type", "device type code: 7 for a camera, 2 for a recorder", "7");
-    option("channels", "number of channels", "1");
+    option("name", "shown in the device list; else the UID");
+    option("account", "the view account; else Admin");
+    option("password", "the view password");
+    option("type", "device type code: 7 for a camera, which it is at first, 2 for a recorder");
+    option("channels", "number of channels, 1 at first");
     options.addPositionalArgument(QStringLiteral("command"), QStringLiteral("list, add or remove"));
     options.addPositionalArgument(QStringLiteral("uid"),
         QStringLiteral("20 characters of A-Z and 0-9"), QStringLiteral("[UID]"));
