@@ -11,6 +11,7 @@
 #include "wall/channelwindow.h"
 #include "wall/viewcontrol.h"
 
+#include <QMouseEvent>
 #include <QStyle>
 #include <QTextDocument>
 
