@@ -213,7 +213,7 @@ void TestFrameBars::speedOutsideTheTableShowsNothing()
 {
     FrameTest t;
     QVERIFY(t.open());
-    for (int speed : {-1, 11, 1000}) {
+    for (int speed : {11, 15}) {
         t.label("label_ffSpeed")->setText("x");
         t.label("label_fbSpeed")->setText("x");
         emit t.wall.viewControl.speedChangeMsg(static_cast<PLAY_SPEED>(speed));
