@@ -14,8 +14,8 @@ constexpr char selectedTextStyle[] = "color:#0F1A2E;font-weight:600";
 constexpr char normalStyle[] = "WidgetBtnLive{background:transparent;border-radius:4px}"
                                "WidgetBtnLive:hover{background:rgba(255,255,255,0.10)}"
                                "WidgetBtnLive:focus{border:2px solid #6495ED}";
-constexpr char normalTextStyle[] = "QLabel{color:#EEF2F7;font-weight:600}"
-                                   "QLabel:disabled{color:#8592A4}";
+constexpr char normalTextStyle[] = "color:#EEF2F7;font-weight:600";
+constexpr char disabledTextStyle[] = "color:#8592A4;font-weight:600";
 
 } // namespace
 
@@ -57,8 +57,16 @@ void WidgetBtnLive::setSelected(bool selected)
 {
     isSelected_ = selected;
     setStyleSheet(QLatin1String(selected ? selectedStyle : normalStyle));
-    text_->setStyleSheet(QLatin1String(selected ? selectedTextStyle : normalTextStyle));
+    const char* unselected = isEnabled() ? normalTextStyle : disabledTextStyle;
+    text_->setStyleSheet(QLatin1String(selected ? selectedTextStyle : unselected));
     icon_->setPixmap(QPixmap(picture_ + QLatin1String(selected ? "-on.png" : ".png")));
+}
+
+void WidgetBtnLive::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::EnabledChange)
+        setSelected(isSelected_);
+    QWidget::changeEvent(event);
 }
 
 void WidgetBtnLive::mousePressEvent(QMouseEvent* event)

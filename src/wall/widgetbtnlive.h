@@ -28,6 +28,7 @@ signals:
     void clicked(WidgetBtnLive* button);
 
 protected:
+    void changeEvent(QEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 

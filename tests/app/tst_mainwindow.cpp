@@ -89,8 +89,9 @@ void TestMainWindow::debugPanelStaysInsideASmallFrame()
     gate.press("label_debugRecord_btn");
     const auto* stage = gate.part("widget_stage");
     const auto* panel = gate.part("widget_debugPanel");
-    // Again until it holds: the window manager may still be placing the new frame.
-    QTRY_VERIFY((gate.window.resize(640, 400), stage->width() <= 640));
+    // Again until it holds: the window manager may still be placing the new frame, which becomes as
+    // small as it can. The panel wants to be 800 wide.
+    QTRY_VERIFY((gate.window.resize(640, 400), stage->width() < 800 && stage->height() < 584));
     QTRY_VERIFY(stage->rect().contains(panel->geometry()));
 }
 
