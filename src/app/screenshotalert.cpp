@@ -2,6 +2,7 @@
 #include "app/screenshotalert.h"
 
 #include "app/escapekey.h"
+#include "app/hint.h"
 #include "app/pictures.h"
 #include "model/channel.h"
 #include "ui_screenshotalert.h"
@@ -20,7 +21,7 @@ ScreenShotAlert::ScreenShotAlert(const Channel* channel, const QString& path, QW
     if (const QPixmap picture(path); !picture.isNull())
         ui_->label_picture->setPixmap(
             picture.scaled(room, Qt::KeepAspectRatio, Qt::SmoothTransformation));
-    ui_->label_path->setToolTip(path.toHtmlEscaped());
+    ui_->label_path->setToolTip(plainHint(path));
     ui_->label_path->setText(
         ui_->label_path->fontMetrics().elidedText(path, Qt::ElideMiddle, room.width()));
     adjustSize();

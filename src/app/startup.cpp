@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/startup.h"
 
+#include "app/style.h"
+
 #include <QApplication>
 #include <QFile>
 #include <QFontDatabase>
@@ -42,6 +44,7 @@ void setFont()
 
 void setLook()
 {
+    QApplication::setStyle(new Style); // taken over
     // A style sheet of Qt 5 cannot name the colour of a placeholder, and gives it that of the text
     // where it names one: so both colours of the input fields come from the palette. They are the
     // tokens text-1 and text-3.

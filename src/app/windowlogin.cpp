@@ -4,6 +4,7 @@
 #include "app/activation.h"
 #include "app/brand.h"
 #include "app/dragarea.h"
+#include "app/hint.h"
 #include "app/logincombobox.h"
 #include "app/mainwindow.h"
 #include "app/pictures.h"
@@ -408,7 +409,7 @@ void WindowLogin::showPlaceholders()
 void WindowLogin::showMessage(const QString& text)
 {
     ui_->label_message->setText(text);
-    ui_->label_message->setToolTip(text.toHtmlEscaped());
+    ui_->label_message->setToolTip(plainHint(text));
 }
 
 void WindowLogin::openAccountPage(AccountNotice* page)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "wall/menulistdev.h"
 
+#include "app/hint.h"
 #include "app/pictures.h"
 #include "app/systeminfo.h"
 #include "cloud/dev.h"
@@ -13,7 +14,6 @@
 
 #include <QMouseEvent>
 #include <QStyle>
-#include <QTextDocument>
 
 namespace {
 
@@ -37,12 +37,11 @@ QString shortened(const QString& name)
     return name.size() > most ? name.left(kept) + QStringLiteral("...") : name;
 }
 
-// Always rich text, so that no name is taken for it; and not wider than a screen.
+// Not wider than a screen.
 QString hintOf(const QString& name)
 {
     constexpr int most = 100;
-    return Qt::convertFromPlainText(
-        name.size() > most ? name.left(most) + QStringLiteral("...") : name, Qt::WhiteSpaceNormal);
+    return plainHint(name.size() > most ? name.left(most) + QStringLiteral("...") : name);
 }
 
 } // namespace

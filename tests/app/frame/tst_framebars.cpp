@@ -27,6 +27,7 @@ private slots:
     void speedLabelsFollowTheWall_data();
     void speedLabelsFollowTheWall();
     void speedOutsideTheTableShowsNothing();
+    void disabledKeysAreGrey();
     void modeIsMarkedInTheHeader();
     void controlsOfPlaybackShowInPlaybackOnly();
     void playbackIsNotToBeHadYet();
@@ -138,8 +139,6 @@ void TestFrameBars::pageLabelFollowsTheWall()
     for (int i = 0; i < 5; ++i)
         t.wall.viewControl.closeChannel(device->channel(i));
     QVERIFY(t.wall.settle());
-    for (int i = 0; i < 5; ++i)
-        emit t.wall.io->videoRequestStopSuccessMsg(device->channel(i));
     QCOMPARE(t.label("label_page")->text(), QString("0"));
     QCOMPARE(t.label("label_total")->text(), QString("0"));
 }
@@ -220,6 +219,23 @@ void TestFrameBars::speedOutsideTheTableShowsNothing()
         emit t.wall.viewControl.speedBackChangeMsg(static_cast<PLAY_SPEED>(speed));
         QCOMPARE(t.label("label_ffSpeed")->text(), QString());
         QCOMPARE(t.label("label_fbSpeed")->text(), QString());
+    }
+}
+
+void TestFrameBars::disabledKeysAreGrey()
+{
+    constexpr QRgb grey = 0xFF566376;
+    FrameTest t;
+    QVERIFY(t.open());
+    for (const char* name : {"label_icon_photo", "label_icon_video"}) {
+        QVERIFY(!t.part(name)->isEnabled());
+        const QImage seen = t.part(name)->grab().toImage();
+        int points = 0;
+        for (int y = 0; y < seen.height(); ++y) {
+            for (int x = 0; x < seen.width(); ++x)
+                points += seen.pixel(x, y) == grey ? 1 : 0;
+        }
+        QVERIFY2(points > 20, name);
     }
 }
 
