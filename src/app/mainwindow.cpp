@@ -63,6 +63,7 @@ MainWindow::MainWindow(QWidget* parent)
     auto* escape = new QShortcut(Qt::Key_Escape, ui_->widget_debugPanel);
     escape->setContext(Qt::WidgetWithChildrenShortcut);
     connect(escape, &QShortcut::activated, this, &MainWindow::toggleDebugRecord);
+    connect(escape, &QShortcut::activatedAmbiguously, this, &MainWindow::toggleDebugRecord);
 
     buildPanels();
     connectHeader();

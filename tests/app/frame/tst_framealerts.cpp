@@ -7,8 +7,10 @@
 #include "hands.h"
 #include "testmain.h"
 
+#include <QApplication>
 #include <QPushButton>
 #include <QTemporaryDir>
+#include <QTextDocument>
 
 // The alerts in the frame: where they stand, how they close, what their answers do.
 class TestFrameAlerts final : public QObject
@@ -20,6 +22,7 @@ private slots:
     void alertStaysInTheMiddleOfANewSize();
     void alertClosesByItsKey();
     void alertClosesByEscape();
+    void escapeActsAtOnceWithTheLogOpenToo();
     void longTextsWrapAndAreNotCut_data();
     void longTextsWrapAndAreNotCut();
     void textsOfFailuresArePlain();
@@ -71,6 +74,14 @@ public:
     FrameTest t;
     Device* device = nullptr;
 };
+
+// As it is read.
+QString hintOn(const QWidget* part)
+{
+    QTextDocument hint;
+    hint.setHtml(part->toolTip());
+    return hint.toPlainText();
+}
 
 void pushButton(const QWidget* alert, const char* name)
 {
@@ -149,6 +160,22 @@ void TestFrameAlerts::alertClosesByEscape()
     QVERIFY(a.t.popup<Alert>() != nullptr);
     type(a.t.frame(), Qt::Key_Escape);
     QVERIFY(a.t.popups<Alert>().isEmpty());
+}
+
+void TestFrameAlerts::escapeActsAtOnceWithTheLogOpenToo()
+{
+    AlertTest a;
+    QVERIFY(a.open());
+    click(a.t.part("label_debugRecord_btn"));
+    QVERIFY(a.t.part("widget_debugPanel")->isVisible());
+    QVERIFY(a.fail() != nullptr);
+    const auto open = [&a] {
+        return a.t.part("widget_debugPanel")->isVisible() + a.t.popups<Alert>().size();
+    };
+    for (const int left : {1, 0}) {
+        type(QApplication::focusWidget(), Qt::Key_Escape);
+        QCOMPARE(open(), left);
+    }
 }
 
 void TestFrameAlerts::longTextsWrapAndAreNotCut_data()
@@ -300,7 +327,7 @@ void TestFrameAlerts::snapshotIsShownWithItsPath()
     QVERIFY(alert != nullptr);
     QVERIFY(a.t.isCentred(alert));
     QCOMPARE(textOf(alert, "label_channel"), QString("Channel2"));
-    QCOMPARE(alert->findChild<QLabel*>("label_path")->toolTip(), shot.path);
+    QCOMPARE(hintOn(alert->findChild<QLabel*>("label_path")), shot.path);
     const auto* picture = alert->findChild<QLabel*>("label_picture");
     const QPixmap shown = picture->pixmap(Qt::ReturnByValue);
     QCOMPARE(shown.width(), 286);
@@ -347,7 +374,7 @@ void TestFrameAlerts::snapshotWithAVeryLongPathKeepsItsWidth()
 {
     AlertTest a;
     QVERIFY(a.open());
-    const QString path = "/" + QString(200, 'W') + "/<b>shot</b>.jpg";
+    const QString path = "/" + QString(200, 'W') + "/<b>A & B</b>.jpg";
     emit a.t.wall.decode.screenshotMsg(a.device->channel(0), false, path);
     const auto* alert = a.t.popup<ScreenShotAlert>();
     QVERIFY(alert != nullptr);
@@ -355,7 +382,7 @@ void TestFrameAlerts::snapshotWithAVeryLongPathKeepsItsWidth()
     const auto* label = alert->findChild<QLabel*>("label_path");
     QCOMPARE(label->textFormat(), Qt::PlainText);
     QVERIFY(label->fontMetrics().horizontalAdvance(label->text()) <= label->width());
-    QVERIFY(label->toolTip().contains(path.toHtmlEscaped()));
+    QCOMPARE(hintOn(label), path);
 }
 
 ORVA_TEST(TestFrameAlerts)

@@ -24,6 +24,7 @@ private slots:
     void confirmOfStrangeEntriesOpensNothing();
     void cancelForgetsTheChannels_data();
     void cancelForgetsTheChannels();
+    void cancelKeepsWhatWasOpenedBesideTheOffer();
     void returnConfirms();
     void offerStaysInTheMiddleOfANewSize();
     void confirmAfterADeviceHasLeftOpensTheOthers();
@@ -209,12 +210,26 @@ void TestReopenAlert::cancelForgetsTheChannels()
     QCOMPARE(o.t.center()->findChildren<ReopenAlert*>().size(), 0);
 }
 
+void TestReopenAlert::cancelKeepsWhatWasOpenedBesideTheOffer()
+{
+    OfferTest o(savedChannels);
+    QVERIFY(o.open());
+    QVERIFY(o.offer() != nullptr);
+    Device* device = o.t.wall.addDevice(2);
+    QVERIFY(o.t.wall.open(device, 1));
+    QVERIFY(o.answer("pushButton_cancel"));
+    QCOMPARE(OfferTest::openChannels(), QStringList("2:0"));
+    const QString saved = Location::instance()->getDeviceChannel();
+    QVERIFY(saved.contains(device->uid()));
+    QVERIFY(!saved.contains("REOPEN"));
+}
+
 void TestReopenAlert::returnConfirms()
 {
     OfferTest o(savedChannels);
     QVERIFY(o.open());
     QVERIFY(o.offer() != nullptr);
-    type(o.t.frame(), Qt::Key_Space);
+    type(o.t.frame(), Qt::Key_Return);
     QVERIFY(o.t.popups<ReopenAlert>().isEmpty());
     QCOMPARE(OfferTest::openChannels().size(), 3);
 }
