@@ -20,7 +20,8 @@ PlayBtn::PlayBtn(QWidget* parent)
     connect(io, &IoConnect::stopReplaySuccessMsg, this, load);
     // A failure of a device comes with another of its channels.
     for (const auto failure : {&IoConnect::connectDevFailMsg, &IoConnect::connectChannelFailMsg,
-             &IoConnect::videoRequestFailMsg, &IoConnect::startReplayFailMsg})
+             &IoConnect::videoRequestFailMsg, &IoConnect::receiveVideoTimeEmptyMsg,
+             &IoConnect::startReplayFailMsg})
         connect(io, failure, this, [this] { loadPlayStatus(Dev::instance()->selectedChannel()); });
     loadPlayStatus(Dev::instance()->selectedChannel());
 }

@@ -136,6 +136,9 @@ void DevMenu::showMarks()
     ui_->widget_stop->setMarked(!mode.open);
     ui_->widget_hd->setMarked(mode.highQuality);
     ui_->widget_sd->setMarked(!mode.highQuality);
+    // The quality of a stopped channel is not to be had: changing it starts the stream.
+    ui_->widget_hd->setEnabled(mode.open);
+    ui_->widget_sd->setEnabled(mode.open);
     ui_->widget_sound->setMarked(mode.audioOn);
     ui_->widget_soundstop->setMarked(!mode.audioOn);
     ui_->widget_speech->setMarked(channel_->speaking);

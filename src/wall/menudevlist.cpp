@@ -60,12 +60,13 @@ void MenuDevList::loadDevList()
         loadLocalList();
         return;
     }
-    ++page_;
-    requestPage(page_);
+    requestPage(page_ + 1);
 }
 
 void MenuDevList::requestPage(int page)
 {
+    retryTimer_.stop(); // it would ask for this page a second time
+    page_ = page;
     showWaiting();
     Dev::instance()->getDev(UserService::instance()->user().access_token, page, pageSize);
 }
@@ -94,6 +95,7 @@ void MenuDevList::getDevResponsed(int size)
         return;
     delete waitingCircle_;
     waitingCircle_ = nullptr;
+    retryTimer_.stop();
     retryCount_ = 0;
     isLoaded_ = true;
     isEnd_ = size < pageSize;
@@ -137,8 +139,8 @@ void MenuDevList::refresh()
     for (Device* device : devices)
         ViewControl::instance()->closeDevice(device);
     Dev::instance()->clear();
-    page_ = 1;
-    requestPage(page_);
+    retryCount_ = 0;
+    requestPage(1);
 }
 
 // While a page is awaited another request would end that one, and its page would be passed over.
@@ -184,15 +186,6 @@ void MenuDevList::rebuild()
 
 void MenuDevList::deleteBlocks()
 {
-    for (const MenuListDev* block : blocks_) {
-        const Device* device = block->device();
-        if (device == nullptr)
-            continue;
-        if (block->isUnfolded())
-            unfolded_.insert(device->uid());
-        else
-            unfolded_.remove(device->uid());
-    }
     qDeleteAll(blocks_);
     blocks_.clear();
 }
@@ -201,11 +194,23 @@ void MenuDevList::addBlock(Device* device)
 {
     auto* block = new MenuListDev(ui_->widget_blocks);
     connect(block, &MenuListDev::folded, this, &MenuDevList::resizeDevList);
+    connect(block, &MenuListDev::folded, this, [this, block] { noteFold(block); });
     ui_->layout_blocks->addWidget(block);
     block->setDevice(device);
     block->setUnfolded(unfolded_.contains(device->uid()));
     block->show();
     blocks_.push_back(block);
+}
+
+void MenuDevList::noteFold(const MenuListDev* block)
+{
+    if (block->device() == nullptr)
+        return;
+    const QString uid = block->device()->uid();
+    if (block->isUnfolded())
+        unfolded_.insert(uid);
+    else
+        unfolded_.remove(uid);
 }
 
 void MenuDevList::resizeDevList()

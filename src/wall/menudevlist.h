@@ -52,6 +52,7 @@ private:
     void rebuild();
     void addBlock(Device* device);
     void deleteBlocks();
+    void noteFold(const MenuListDev* block);
     void showHints();
     void showRefresh();
 

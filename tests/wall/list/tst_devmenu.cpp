@@ -137,8 +137,8 @@ void TestDevMenu::rowsOfLaterVersionsAreDisabled()
     QCOMPARE(t.closed.count(), 0);
     QVERIFY(!device->channel(0)->mode(true).audioOn);
     QVERIFY(!device->channel(0)->speaking);
-    for (const char* text : {"Play", "Stop", "HD", "SD", "Reset Connect", "Record Folder",
-             "Screenshot Folder", "Play All", "Stop All", "Delete Device"})
+    for (const char* text : {"Play", "Stop", "Reset Connect", "Record Folder", "Screenshot Folder",
+             "Play All", "Stop All", "Delete Device"})
         QVERIFY(t.row(text)->isEnabled());
 }
 

@@ -27,6 +27,7 @@ private slots:
     void stopAllOnADeviceThatIsNotConnectedDoesNothing();
     void qualityIsSetAsTheRowSays_data();
     void qualityIsSetAsTheRowSays();
+    void qualityOfAStoppedChannelStartsNothing();
     void resetConnectEndsTheSession();
     void deleteAsksFirst();
     void foldersOfTheDeviceAreOpened_data();
@@ -184,6 +185,26 @@ void TestDevMenuActions::qualityIsSetAsTheRowSays()
     QCOMPARE(sent.avIndex(), int(device->channel(1)->mode(true).avIndex));
     QVERIFY2(sent.payload().startsWith(message), sent.payload().toHex().constData());
     QVERIFY(device->channel(1)->mode(true).open);
+}
+
+void TestDevMenuActions::qualityOfAStoppedChannelStartsNothing()
+{
+    WallTest wall;
+    Device* device = wall.addDevice(2);
+    QVERIFY(wall.open(device, 2));
+    QVERIFY(MenuTest(wall, device, device->channel(1)).row("HD")->isEnabled());
+    wall.viewControl.closeChannel(device->channel(1));
+    QVERIFY(wall.settle());
+    wall.takeSent();
+    for (const char* row : {"HD", "SD"}) {
+        MenuTest stopped(wall, device, device->channel(1));
+        QVERIFY(stopped.show());
+        click(stopped.row(row));
+        QVERIFY(wall.settle());
+        QCOMPARE(stopped.closed.count(), 0);
+    }
+    QCOMPARE(wall.takeSent(), QList<int>());
+    QVERIFY(!device->channel(1)->mode(true).playing);
 }
 
 void TestDevMenuActions::resetConnectEndsTheSession()

@@ -23,7 +23,7 @@ private slots:
     void fullPageAndAnEmptyOneHideTheHintOnlyThen();
     void emptyFirstPageSaysSo();
 
-    void scrollingToTheEndAsksForTheNextPage();
+    void scrollingToTheEndAsksForMore();
     void scrollingInsideTheListAsksNobody();
     void scrollingToTheEndOfAWholeListAsksNobody();
     void awaitedPageIsNotAskedForTwice();
@@ -32,11 +32,13 @@ private slots:
     void longOrWholeListAsksNobodyWhenItsViewGrows();
 
     void failedPageIsAskedForAgainASecondLater();
+    void failureOfAnotherKindAsksNobody();
+    void failedPageIsNotAskedForBesideAnother();
     void eleventhFailureEndsItAndLeavesTheCounterReady();
     void successBeginsANewRowOfFailures();
 
-    void refreshEndsTheStreamsAndAsksForTheFirstPage();
-    void changeOfTheWholeListAsksForTheFirstPage();
+    void refreshEndsTheStreamsAndAsksOnce();
+    void changeOfTheWholeListAsksOnce();
     void changeOfADeviceAsksNobody();
 };
 
@@ -143,7 +145,7 @@ void TestListPages::emptyFirstPageSaysSo()
     QCOMPARE(t.moreText(), QString());
 }
 
-void TestListPages::scrollingToTheEndAsksForTheNextPage()
+void TestListPages::scrollingToTheEndAsksForMore()
 {
     PanelTest t;
     CloudRequests requests;
@@ -251,12 +253,37 @@ void TestListPages::failedPageIsAskedForAgainASecondLater()
     t.panel.loadDevList();
     QCOMPARE(requests.take(), 1);
     const Pauses pauses;
-    CloudRequests::fail(QStringLiteral("addDev"));
     CloudRequests::fail();
     QVERIFY(t.isWaiting());
     QTRY_COMPARE(requests.count(), 1);
     QCOMPARE(std::count(pauses.ended.begin(), pauses.ended.end(), 1000), 1);
     QVERIFY(t.isWaiting());
+}
+
+void TestListPages::failureOfAnotherKindAsksNobody()
+{
+    PanelTest t;
+    CloudRequests requests;
+    CloudRequests::fail(QStringLiteral("addDev"));
+    QTest::qWait(1200); // longer than the pause before the next try
+    QCOMPARE(requests.take(), 0);
+}
+
+void TestListPages::failedPageIsNotAskedForBesideAnother()
+{
+    PanelTest t;
+    QVERIFY(t.show());
+    CloudRequests requests;
+    CloudRequests::fail();
+    click(t.key("pushButton_refresh"));
+    CloudRequests::fail();
+    emit Dev::instance()->reloadDevMsg(nullptr);
+    QCOMPARE(requests.take(), 2);
+    CloudRequests::fail();
+    CloudRequests::answer(3);
+    QTest::qWait(1200); // longer than the pause before the next try
+    QCOMPARE(requests.take(), 0);
+    QVERIFY(!t.isWaiting());
 }
 
 void TestListPages::eleventhFailureEndsItAndLeavesTheCounterReady()
@@ -302,7 +329,7 @@ void TestListPages::successBeginsANewRowOfFailures()
     }
 }
 
-void TestListPages::refreshEndsTheStreamsAndAsksForTheFirstPage()
+void TestListPages::refreshEndsTheStreamsAndAsksOnce()
 {
     PanelTest t;
     CloudRequests requests;
@@ -325,7 +352,7 @@ void TestListPages::refreshEndsTheStreamsAndAsksForTheFirstPage()
     QCOMPARE(t.blocks().size(), 2);
 }
 
-void TestListPages::changeOfTheWholeListAsksForTheFirstPage()
+void TestListPages::changeOfTheWholeListAsksOnce()
 {
     PanelTest t;
     CloudRequests requests;

@@ -359,6 +359,12 @@ void TestMenuDevList::deviceThatComesBackIsAsItWas()
     Dev::instance()->addLocalDev(
         QStringLiteral("A"), {}, {}, {}, QStringLiteral("7"), QStringLiteral("2"));
     QCOMPARE(t.blocks().size(), 1);
+    QVERIFY(t.block(0)->isUnfolded());
+    BlockParts(*t.block(0)).fold->toggle();
+    Dev::instance()->deleteLocalDev(t.block(0)->device());
+    Dev::instance()->addLocalDev(
+        QStringLiteral("A"), {}, {}, {}, QStringLiteral("7"), QStringLiteral("2"));
+    QVERIFY(!t.block(0)->isUnfolded());
 }
 
 void TestMenuDevList::deviceThatLeavesWhileItIsShownIsLetGo()

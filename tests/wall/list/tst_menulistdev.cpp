@@ -375,6 +375,11 @@ void TestMenuListDev::deviceThatLeavesIsLetGo()
     BlockTest t(channels);
     QVERIFY(t.show());
     t.block.setUnfolded(isUnfolded);
+    t.block.resize(240, t.block.wantedHeight());
+    const auto cards = t.parts().cards();
+    QCOMPARE(cards.size(), isUnfolded ? channels : 0);
+    for (const ChannelWindow* card : cards)
+        QTRY_VERIFY(card->isVisible() && card->height() == 120);
     Dev::instance()->removeDevice(t.device);
     QVERIFY(t.wall.settle()); // it is destroyed
     QVERIFY(t.block.device() == nullptr);
@@ -382,9 +387,9 @@ void TestMenuListDev::deviceThatLeavesIsLetGo()
     QSignalSpy asked(&t.wall.viewControl, &ViewControl::openedSubWindowMenuMsg);
     clickTitle(t, Qt::RightButton);
     doubleClickTitle(t);
-    click(t.parts().fold);
-    for (ChannelWindow* card : t.parts().cards())
+    for (ChannelWindow* card : cards)
         doubleClick(card);
+    click(t.parts().fold);
     Dev::instance()->selectDevice(t.other);
     Dev::instance()->selectChannel(t.other->channel(0));
     emit t.wall.io->connectDevFailMsg(t.other->channel(0), -13, QString());

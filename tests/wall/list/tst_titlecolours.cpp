@@ -236,7 +236,7 @@ void TestTitleColours::newsOfAnotherDeviceColourNothing()
     for (const QColor& before : {idle, running, failed}) {
         colour(t, before);
         newsOf(news)(t, t.other->channel(0));
-        QVERIFY(before == idle || isColoured(t, before));
+        QVERIFY(isColoured(t, before));
     }
 }
 
@@ -308,7 +308,6 @@ void TestTitleColours::modeDecidesWhatCountsAsPlaying()
     t.markPlaying(true, false, channels - 1);
     t.wall.viewControl.changeMod(false);
     QVERIFY(isColoured(t, running));
-    t.markPlaying(true, false, channels - 1); // it paused with the mode
     t.wall.viewControl.changeMod(true);
     QVERIFY(isColoured(t, idle));
 }
