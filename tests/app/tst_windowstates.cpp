@@ -90,7 +90,7 @@ void TestWindowStates::maximisedWindowDoesNotMove()
     Gate gate;
     openFrame(gate);
     emit SystemInfo::instance()->fullScreenMsg();
-    QTRY_COMPARE(gate.window.size(), QSize(1920, 1080));
+    QTRY_COMPARE(gate.window.geometry(), QRect(0, 0, 1920, 1080));
     const QPoint before = gate.window.pos();
     emit gate.window.mainWindow()->moveMsg(QPoint(30, 30));
     QCoreApplication::processEvents();

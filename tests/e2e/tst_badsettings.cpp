@@ -69,8 +69,10 @@ void TestBadSettings::whatIsNoListMakesNoOffer()
     QFETCH(QString, text);
     setSetting("config/devicechannel", text);
     QVERIFY(open({{uid, "Workshop", channelCount}}));
+    QTRY_VERIFY(hasName(nameArea(0)));
     QVERIFY(!isOfferOpen());
     QVERIFY(programWorks());
+    QVERIFY(!isOfferOpen());
 }
 
 void TestBadSettings::offerOfStrangeChannelsOpensWhatThereIs_data()
@@ -102,7 +104,10 @@ void TestBadSettings::offerOfStrangeChannelsOpensWhatThereIs()
     QTRY_VERIFY(!isOfferOpen());
     if (opened == 1)
         QVERIFY(picturesCome({tileArea(2, 2, 0)}));
+    QTest::qWait(2000); // a wrong channel would have come by now
     QVERIFY(isEmpty(tileArea(2, 2, opened)));
+    const auto state = opened == 0 ? NameColour::Idle : NameColour::Playing;
+    QVERIFY(nameColour(nameArea(0)) == state);
     QVERIFY(programWorks());
 }
 

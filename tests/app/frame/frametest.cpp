@@ -42,6 +42,8 @@ QRect FrameTest::placeIn(const QWidget* room, const QWidget* part)
 
 bool FrameTest::isCentred(const QWidget* part) const
 {
+    if (part == nullptr)
+        return false;
     const QRect place = placeIn(viewBox(), part);
     const QPoint off = place.center() - viewBox()->rect().center();
     return qAbs(off.x()) <= 1 && qAbs(off.y()) <= 1;

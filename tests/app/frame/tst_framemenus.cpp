@@ -157,7 +157,8 @@ void TestFrameMenus::rightClickOpensTheMenuAtTheMouse()
     const QPoint mouse = m.t.center()->mapFromGlobal(tile->mapToGlobal(QPoint(100, 40)));
     QCOMPARE(m.menu()->pos(), mouse + QPoint(-2, 3));
     QCOMPARE(m.menu()->size(), m.menu()->sizeHint().expandedTo(m.menu()->minimumSize()));
-    QCOMPARE(m.t.center()->childAt(m.menu()->geometry().center()) != nullptr, true);
+    const QWidget* hit = m.t.center()->childAt(m.menu()->geometry().center());
+    QVERIFY(hit == m.menu() || m.menu()->isAncestorOf(hit));
     QVERIFY(m.row("widget_play")->isMarked());
 }
 
@@ -196,8 +197,9 @@ void TestFrameMenus::menuLargerThanItsRoomBeginsAtTheCorner()
     m.t.gate.window.resize(m.t.gate.window.minimumSizeHint());
     QTRY_VERIFY(m.t.center()->height() < 400);
     m.openMenuAt(m.t.center()->rect().bottomRight(), m.device->channel(0));
+    QVERIFY(m.menu()->height() > m.t.center()->height());
     QVERIFY(m.menu()->pos().x() >= 0);
-    QVERIFY(m.menu()->pos().y() >= 0);
+    QCOMPARE(m.menu()->pos().y(), 0);
     QVERIFY(m.menu()->geometry().right() < m.t.center()->width());
 }
 

@@ -71,6 +71,9 @@ public:
     [[nodiscard]] bool enter()
     {
         click(key());
+        escTimer = timer();
+        if (escTimer != nullptr)
+            escTimer->stop(); // the hint stays, however long the rest takes
         const QSize screen = t.center()->screen()->size();
         return QTest::qWaitFor([&] { return t.viewBox()->size() == screen; })
             && QTest::qWaitForWindowActive(t.center());
@@ -104,6 +107,7 @@ public:
 
     FrameTest t;
     Device* device = nullptr;
+    QTimer* escTimer = nullptr; // that ran when the full screen began
 };
 
 } // namespace
@@ -147,10 +151,10 @@ void TestFullScreen::hintShowsAndGoesByItself()
     QTRY_VERIFY(f.t.isCentred(f.hint()));
     QCOMPARE(f.hint()->findChild<QLabel*>("label_text")->text(),
         QString("Press ESC to exit the full screen"));
-    QVERIFY(f.timer() != nullptr);
-    QVERIFY(f.timer()->isSingleShot());
-    QCOMPARE(f.timer()->intervalAsDuration(), 5s);
-    f.timer()->start(0ms);
+    QVERIFY(f.escTimer != nullptr);
+    QVERIFY(f.escTimer->isSingleShot());
+    QCOMPARE(f.escTimer->intervalAsDuration(), 5s);
+    f.escTimer->start(0ms);
     QTRY_VERIFY(f.hint() == nullptr);
     QVERIFY(f.t.wall.settle());
     QCOMPARE(f.t.center()->findChildren<EscAlert*>().size(), 0);
@@ -161,14 +165,13 @@ void TestFullScreen::hintShowsEachTime()
 {
     FullTest f;
     QVERIFY(f.open());
-    QVERIFY(f.enter());
-    QVERIFY(f.timer() != nullptr);
-    f.timer()->stop(); // as if it had run out
-    QVERIFY(f.leave());
-    QVERIFY(f.enter());
-    QVERIFY(f.hint() != nullptr);
-    QVERIFY(f.timer() != nullptr);
-    QCOMPARE(f.timer()->intervalAsDuration(), 5s);
+    for (int round = 0; round < 2; ++round) {
+        QVERIFY(f.enter());
+        QVERIFY(f.hint() != nullptr);
+        QVERIFY(f.escTimer != nullptr);
+        QCOMPARE(f.escTimer->intervalAsDuration(), 5s);
+        QVERIFY(f.leave());
+    }
 }
 
 void TestFullScreen::hintGoesWithTheFullScreen()
