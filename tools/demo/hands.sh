@@ -1,8 +1,12 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 # Sourced by what uses the client from outside as a person would: starts it, finds its window, clicks.
-# Needs a display, and ORVA_PROGRAM from tools/demo/start.
+# Needs a display, and ORVA_PROGRAM from tools/demo/start. What the client says goes to the file $log, if set.
 
-"$ORVA_PROGRAM" 2>"${log:-/dev/stderr}" &
+if [ -n "${log:-}" ]; then
+    "$ORVA_PROGRAM" 2>"$log" &
+else
+    "$ORVA_PROGRAM" &
+fi
 program=$!
 trap 'kill "$program" 2>/dev/null || true; wait "$program" 2>/dev/null || true' EXIT
 
