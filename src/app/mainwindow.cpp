@@ -56,6 +56,7 @@ MainWindow::MainWindow(QWidget* parent)
     ui_->label_icon_close->setPicture(keyPicture("win_close"));
     ui_->label_debugRecord_btn->installEventFilter(this);
     ui_->widget_viewBox->installEventFilter(this);
+    ui_->label_devName->installEventFilter(this);
     ui_->widget_center->installEventFilter(this);
     ui_->label_debugClose->setPicture(keyPicture("win_close"));
     ui_->widget_debugPanel->hide();
@@ -191,7 +192,6 @@ void MainWindow::resizeEvent(QResizeEvent* event)
 void MainWindow::layOut()
 {
     ui_->layout_main->activate();
-    selectedDev(Dev::instance()->selectedDevice()); // as much of its name as there is room for
     placePopups();
     placeDebugPanel();
 }
@@ -238,6 +238,8 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event)
     }
     if (watched == ui_->widget_center && event->type() == QEvent::Resize)
         sizePanels();
+    if (watched == ui_->label_devName && event->type() == QEvent::Resize)
+        selectedDev(Dev::instance()->selectedDevice()); // as much of its name as there is room for
     if ((watched == windowLogin_ || watched == ui_->widget_center)
         && event->type() == QEvent::Close)
         close(nullptr); // by the window manager, in full screen too

@@ -16,6 +16,7 @@ class TestFrameBars final : public QObject
 private slots:
     void nameBarShowsTheSelectedDevice();
     void nameBarShowsTheUidOfADeviceWithoutAName();
+    void nameBarUsesAllItsRoomFromTheStart();
     void nameBarForgetsADeviceThatLeaves();
     void namesArePlainTextAndDoNotWidenTheWindow_data();
     void namesArePlainTextAndDoNotWidenTheWindow();
@@ -64,6 +65,15 @@ void TestFrameBars::nameBarShowsTheUidOfADeviceWithoutAName()
     QVERIFY(t.open());
     const Device* device = select(t, QString());
     QCOMPARE(t.label("label_devName")->text(), device->uid());
+}
+
+void TestFrameBars::nameBarUsesAllItsRoomFromTheStart()
+{
+    FrameTest t;
+    const QString name = "The camera above the gate of the yard behind the old workshop";
+    select(t, name);
+    QVERIFY(t.open());
+    QTRY_COMPARE(t.label("label_devName")->text(), name);
 }
 
 void TestFrameBars::nameBarForgetsADeviceThatLeaves()
