@@ -26,10 +26,11 @@ void click(const QPoint& place)
     xdotool(moveTo(place) + QStringList{"click", "1"});
 }
 
-// Close together, or a busy machine makes two clicks of them.
+// Close together, or a busy machine makes two clicks of them; not too close, or a busy server loses the
+// second: it passes over a press that overtakes the release before it.
 void doubleClick(const QPoint& place)
 {
-    xdotool(moveTo(place) + QStringList{"click", "--repeat", "2", "--delay", "1", "1"});
+    xdotool(moveTo(place) + QStringList{"click", "--repeat", "2", "--delay", "40", "1"});
 }
 
 void rightClick(const QPoint& place)
