@@ -26,8 +26,8 @@ void click(const QPoint& place)
     xdotool(moveTo(place) + QStringList{"click", "1"});
 }
 
-// Close together, or a busy machine makes two clicks of them; not too close, or a busy server loses the
-// second: it passes over a press that overtakes the release before it.
+// Close together, or a busy machine makes two clicks of them; not as close as 1 ms, or the second press is now and
+// then lost before the window system tells the program of it.
 void doubleClick(const QPoint& place)
 {
     xdotool(moveTo(place) + QStringList{"click", "--repeat", "2", "--delay", "40", "1"});
